@@ -1,0 +1,35 @@
+// How the interface adapts to the screen.
+#pragma once
+
+#include <cstdint>
+
+#include "platform/controls.h"
+
+namespace gloamtide {
+
+// The class of a screen, 0 to 3, of its width in pixels: below 800, below 1024, below 1280, wider.
+std::int16_t ScreenClassOf(int WidthPx);
+
+// Places in thousandths of a form's design size, by screen class.
+struct DialogPlace {
+    double Left;
+    double Top;
+};
+
+// Brings an element of a form to about the middle of the screen. The form still has its design size, and keeps the
+// units that this gives it when it then fills the screen.
+void PlaceOnForm(Form& Which, Control& Element, const DialogPlace (&Places)[4]);
+
+// Fixes the screen's class and the sizes of the map and of all pictures.
+//   Sets:  ScreenWidthPx, ScreenClass, MapWidth, MapHeight; the sizes of the work pictures, of PictureTZmask,
+//          PictureGT and PictureGTContainer
+void MeasureScreen();
+
+// Lays out the main window for the class of the screen, once, at the start.
+//   Sets:  CityMarkerRadius, MarkerRadiusX, MarkerRadiusY
+void LayOutMainWindow();
+
+// Gives the map pictures and the zone mask their user scale: map units.
+void ScaleMapPictures();
+
+}  // namespace gloamtide

@@ -1,0 +1,14 @@
+// The five stored pictures and the cached maps made from them.
+#pragma once
+
+namespace gloamtide {
+
+// Puts the stored pictures and the zone mask on their surfaces of FormPictures.
+void FormPictures_Form_Load();
+
+// Brings the cached pictures back to the plain map of the current type.
+//   Reads:  MapType (0 natural, 1 political; with any other it does nothing)
+//   Sets:   the ten work pictures of FormPictures
+void ResetMapPictures();
+
+}  // namespace gloamtide
