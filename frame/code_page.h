@@ -1,0 +1,11 @@
+// The 8-bit code page of texts in configuration files: Windows-1252.
+#pragma once
+
+#include <string>
+
+namespace gloamtide {
+
+// To UTF-8. The five bytes that the code page leaves free become the control characters of the same number.
+std::string FromCodePage(const std::string& Bytes);
+
+}  // namespace gloamtide

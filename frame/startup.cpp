@@ -1,0 +1,138 @@
+#include "frame/startup.h"
+
+#include <filesystem>
+
+#include "astro/solar.h"
+#include "clock/clock.h"
+#include "frame/configuration.h"
+#include "frame/files.h"
+#include "frame/form_gt_main.h"
+#include "frame/form_pictures.h"
+#include "frame/layout.h"
+#include "frame/small_dialogs.h"
+#include "frame/state.h"
+#include "map/day_night.h"
+#include "map/stored_pictures.h"
+#include "places/cities.h"
+#include "platform/host.h"
+
+namespace gloamtide {
+namespace {
+
+void ConnectHandlers() {
+    FormSplash.OnLoad = FormSplash_Form_Load;
+    FormPictures.OnLoad = FormPictures_Form_Load;
+    FormGTMain.OnLoad = FormGTMain_Form_Load;
+    FormGTMain.OnUnload = FormGTMain_Form_Unload;
+    FormGTMain.Timer1.Tick = FormGTMain_Timer1_Timer;
+    FormGTMain.Timer2.Tick = FormGTMain_Timer2_Timer;
+    FormGTMain.Timer4.Tick = FormGTMain_Timer4_Timer;
+}
+
+void UnloadAllForms() {
+    while (!LoadedForms.empty()) LoadedForms.back()->Unload();
+}
+
+void ReadStartupConfiguration() {
+    if (state.StartupSource == ConfigurationSource::StartupFile) ReadStartupFile();
+    state.ConfigOpenPath = state.ConfigFilePath;
+    LoadConfiguration();
+    state.ConfigSaved = True;
+}
+
+void FallBackToDefaults() {
+    host->Beep();
+    host->Beep();
+    host->ShowMessage({"File Not Found",
+                       "Gloamtide Startup file (Startup.dat) or the configuration file it designates not found or "
+                       "corrupted - default settings will be used.  Startup.dat must reside in the same directory as "
+                       "the Gloamtide program.  You may proceed, changing the configuration as you prefer, and save "
+                       "it.  On subsequent starts, Gloamtide will show the last-saved configuration.  For more, refer "
+                       "to \"Startup File\" in the Help index."});
+    SetDefaultConfiguration();
+}
+
+void FindConfiguration() {
+    std::error_code Ignored;  // a current directory that was removed has no name
+    state.AppDirectory = std::filesystem::current_path(Ignored).string();
+    if (state.StartupSource == ConfigurationSource::Defaults) {
+        SetDefaultConfiguration();
+        return;
+    }
+    try {
+        ReadStartupConfiguration();
+    } catch (const FileFailure&) {
+        FallBackToDefaults();
+    }
+}
+
+void StartTimers() {
+    FormGTMain.Timer1.Interval = 1000;
+    FormGTMain.Timer1.Enabled = true;
+    FormGTMain.Timer2.Interval = 60000;
+    FormGTMain.Timer2.Enabled = true;
+    FormGTMain.Timer3.Interval = 1000;
+}
+
+}  // namespace
+
+void StartProgram() {
+    ConnectHandlers();
+    FormSplash.Load();
+}
+
+void FormSplash_Form_Load() {
+    PlaceSplash();
+    FormSplash.Show();
+    host->ProcessPendingEvents();
+    FormGTMain.Load();
+    FormGTMain.Show();
+    FormSplash.Unload();
+}
+
+void FormGTMain_Form_Load() {
+    // The configuration, and what the window shows of it.
+    FindConfiguration();
+    ShowPathInTitle(state.ConfigFilePath);
+    for (Label* Each : {&FormGTMain.LabelMouseLat, &FormGTMain.LabelMouseLong, &FormGTMain.LabelAnimInfo,
+                        &FormGTMain.LabelAnimSteps, &FormGTMain.LabelCity}) {
+        Each->ForeColor = QBColor(14);
+    }
+    state.ExitInProgress = False;
+
+    // The screen and its pictures.
+    MeasureScreen();
+    ResetMapPictures();
+    LayOutMainWindow();
+    FormGTMain.LabelMouseLat.Caption = "";
+    FormGTMain.LabelMouseLong.Caption = "";
+    FormGTMain.LabelCity.Caption = "";
+    FormGTMain.LabelAnimInfo.Visible = false;
+    FormGTMain.LabelAnimSteps.Visible = false;
+    FormGTMain.CmdAnimStop.Visible = false;
+
+    // The tables, and what is drawn once into the cached pictures.
+    BuildCityTable();
+    ScaleMapPictures();
+
+    // The instant, all that follows from it, and the clock.
+    ReadSystemClock();
+    state.CurrentJD = state.SystemJD + state.OffsetDays;
+    SolarPosition();
+    UpdateDateFields();
+    RedrawMap();
+    StartTimers();
+}
+
+void FormGTMain_Form_Unload() {
+    UnloadAllForms();
+    if (state.ExitInProgress == False) ExitProgram();
+}
+
+void ExitProgram() {
+    state.ExitInProgress = True;
+    UnloadAllForms();
+    host->EndProcess();
+}
+
+}  // namespace gloamtide

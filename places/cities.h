@@ -1,0 +1,10 @@
+// The 350 places that the program knows by name.
+#pragma once
+
+namespace gloamtide {
+
+// Fills the city table of the shared state and the list of the Configure dialog.
+//   Sets:  CityLongitude, CityLatitude, CityName (rows 1 to CityCount), CityCount
+void BuildCityTable();
+
+}  // namespace gloamtide
