@@ -9,8 +9,9 @@ import { sampleCountries } from "./countries.js";
 const rasterWidth = 2048; // pixels, 360 degrees
 const rasterHeight = 1024; // pixels, 180 degrees
 const tile = 256;
-const saturation = 1.25; // the raster is made to lie under other things: a little paler than a map wants to be
-const contrast = 1.08;
+const saturation = 1.12; // the raster is made to lie under other things: a little paler than a map wants to be
+const contrast = 1.1;
+const brightness = 0.9; // so that the night, a fixed step darker, stands out
 
 async function readRaster() {
     const folder = join(dirname(createRequire(import.meta.url).resolve("@cesium/engine/package.json")),
@@ -64,7 +65,7 @@ async function landColours() {
 function livelier(colour) {
     const grey = 0.3 * colour[0] + 0.59 * colour[1] + 0.11 * colour[2];
     return colour.map((level) => {
-        const vivid = (grey + (level - grey) * saturation - 150) * contrast + 150;
+        const vivid = ((grey + (level - grey) * saturation - 150) * contrast + 150) * brightness;
         return Math.min(255, Math.max(32, vivid));
     });
 }
