@@ -1,0 +1,74 @@
+#include "platform/qt/control_watcher.h"
+
+#include <QLabel>
+
+#include "platform/qt/fonts.h"
+
+namespace gloamtide {
+
+QColor ToQColor(Color Value) { return {RedOf(Value), GreenOf(Value), BlueOf(Value)}; }
+
+void SetRole(QWidget& Widget, QPalette::ColorRole Role, Color Value) {
+    const QColor Wanted = ToQColor(Value);
+    if (Widget.testAttribute(Qt::WA_SetPalette) && Widget.palette().color(Role) == Wanted) return;
+    QPalette Palette = Widget.palette();
+    Palette.setColor(Role, Wanted);
+    Widget.setPalette(Palette);
+}
+
+ControlWatcher::ControlWatcher(Control& TheRecord, QWidget& TheWidget, std::function<void()> TheShowKind)
+    : Record(TheRecord), Widget(TheWidget), ShowKind(std::move(TheShowKind)) {
+    Widget.setObjectName(QString::fromStdString(Record.Name));
+    ShownFont = Record.CurrentFont();
+    Widget.setFont(InstalledFont(ShownFont));
+    Record.Observer = this;
+    ElementChanged(Record);
+}
+
+void ControlWatcher::ElementChanged(Element&) {
+    if (Writing) return;
+    ShowFont();
+    const QString Tip = QString::fromStdString(Record.ToolTipText);
+    if (Widget.toolTip() != Tip) Widget.setToolTip(Tip);
+    ShowKind();
+    TakeNaturalSize();
+    Place();
+    if (Widget.isHidden() == Record.Visible) Widget.setVisible(Record.Visible);
+}
+
+void ControlWatcher::ShowFont() {
+    if (Record.CurrentFont() == ShownFont) return;
+    ShownFont = Record.CurrentFont();
+    Widget.setFont(InstalledFont(ShownFont));
+}
+
+void ControlWatcher::TakeNaturalSize() {
+    if (dynamic_cast<Container*>(&Record) != nullptr) return;
+    const auto IsFree = [](double Pixels, int LastNatural) { return Pixels == 0.0 || Pixels == LastNatural; };
+    Writing = true;
+    if (IsFree(Record.Width.Pixels(), Natural.width())) {
+        Natural.setWidth(Widget.sizeHint().width());
+        Record.Width.SetPixels(Natural.width());
+    }
+    if (IsFree(Record.Height.Pixels(), Natural.height())) {
+        const int Width = qRound(Record.Width.Pixels());
+        Natural.setHeight(Widget.hasHeightForWidth() ? Widget.heightForWidth(Width) : Widget.sizeHint().height());
+        Record.Height.SetPixels(Natural.height());
+    }
+    Writing = false;
+}
+
+void ControlWatcher::Place() {
+    const auto* Holder = dynamic_cast<const PictureBox*>(Record.Parent);
+    const int Border = Holder == nullptr ? 0 : Holder->BorderWidth.Get();
+    QRect Box(qRound(Record.Left.Pixels()) + Border, qRound(Record.Top.Pixels()) + Border,
+              qRound(Record.Width.Pixels()), qRound(Record.Height.Pixels()));
+    // A row can be lower than a line of its font. Where that shows on nothing but letters the label reaches over.
+    if (const auto* Text = dynamic_cast<const Label*>(&Record); Text != nullptr && !Text->Opaque) {
+        const int Missing = Widget.sizeHint().height() - Box.height();
+        if (Missing > 0 && !Text->WordWrap) Box.adjust(0, -(Missing / 2), 0, Missing - Missing / 2);
+    }
+    Widget.setGeometry(Box);
+}
+
+}  // namespace gloamtide

@@ -1,0 +1,137 @@
+#include "platform/qt/qt_host.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDeadlineTimer>
+#include <QIcon>
+#include <QProxyStyle>
+#include <QScreen>
+#include <QWindow>
+#include <algorithm>
+
+#include "platform/qt/dialogs.h"
+#include "platform/qt/fonts.h"
+
+namespace gloamtide {
+namespace {
+
+// The program places its controls by the pixel, so they look the same on every desktop.
+class ProgramStyle : public QProxyStyle {
+public:
+    ProgramStyle() : QProxyStyle("Fusion") {}
+
+    int styleHint(StyleHint Hint, const QStyleOption* Option, const QWidget* Widget,
+                  QStyleHintReturn* Return) const override {
+        if (Hint == SH_ComboBox_Popup) return 0;  // a list that scrolls, not a menu as tall as the screen
+        return QProxyStyle::styleHint(Hint, Option, Widget, Return);
+    }
+};
+
+}  // namespace
+
+DateTime ToDateTime(const QDateTime& Reading) {
+    const auto Short = [](int Value) { return static_cast<std::int16_t>(Value); };
+    const QDate Date = Reading.date();
+    const QTime Time = Reading.time();
+    return {Short(Date.year()),   Short(Date.month()),   Short(Date.dayOfWeek() % 7), Short(Date.day()),
+            Short(Time.hour()), Short(Time.minute()), Short(Time.second()),         Short(Time.msec())};
+}
+
+QtHost::QtHost() {
+    host = this;
+    QApplication::setStyle(new ProgramStyle);
+    QApplication::setPalette(QApplication::style()->standardPalette());
+    QApplication::setQuitOnLastWindowClosed(false);  // the program ends itself
+}
+
+QtHost::~QtHost() {
+    for (const auto& [Record, Window] : Windows) delete Window;
+    host = nullptr;
+}
+
+int QtHost::Run() { return Ended ? 0 : QApplication::exec(); }
+
+QWidget* QtHost::WindowOf(const Form& Which) const {
+    const auto Found = Windows.find(&Which);
+    return Found == Windows.end() ? nullptr : Found->second;
+}
+
+void QtHost::FillScreen(QWidget& Window) {
+    const QScreen* Screen = QGuiApplication::primaryScreen();
+    const bool Frameless = Window.windowFlags().testFlag(Qt::FramelessWindowHint);
+    // The size comes first: where no window manager runs nothing else makes the window large.
+    Window.setGeometry(Frameless ? Screen->geometry() : Screen->availableGeometry());
+    if (Frameless) {
+        Window.showFullScreen();
+    } else {
+        Window.showMaximized();
+    }
+}
+
+double QtHost::ScreenWidthTwips() { return QGuiApplication::primaryScreen()->size().width() * TwipsPerPixel; }
+double QtHost::ScreenHeightTwips() { return QGuiApplication::primaryScreen()->size().height() * TwipsPerPixel; }
+DateTime QtHost::SystemTime() { return ToDateTime(QDateTime::currentDateTimeUtc()); }
+DateTime QtHost::LocalTime() { return ToDateTime(QDateTime::currentDateTime()); }
+void QtHost::Beep() { QApplication::beep(); }
+
+QWidget* QtHost::DialogParent() const {
+    if (QWidget* Active = QApplication::activeWindow(); Active != nullptr) return Active;
+    for (auto Each = LoadedForms.rbegin(); Each != LoadedForms.rend(); ++Each) {
+        if ((*Each)->Visible) return WindowOf(**Each);
+    }
+    return nullptr;
+}
+
+MessageAnswer QtHost::ShowMessage(const MessageBox& Message) {
+    const TickGate::Hold Held(Gate);
+    return AskMessage(Message, DialogParent());
+}
+
+std::optional<std::string> QtHost::ShowOpenDialog(const FileDialog& Dialog) {
+    const TickGate::Hold Held(Gate);
+    return AskOpenFile(Dialog, DialogParent());
+}
+
+std::optional<std::string> QtHost::ShowSaveDialog(const FileDialog& Dialog) {
+    const TickGate::Hold Held(Gate);
+    return AskSaveFile(Dialog, DialogParent());
+}
+
+GlyphMask QtHost::RenderText(const Font& TheFont, const std::string& Text) { return RenderMask(TheFont, Text); }
+
+void QtHost::FormLoaded(Form& Which) { Windows[&Which] = new FormWindow(Which, *this, Gate); }
+
+// The window goes later: an event of its own may be under way.
+void QtHost::FormUnloaded(Form& Which) {
+    FormWindow* Window = Windows.extract(&Which).mapped();
+    Window->LetGo();
+    Window->deleteLater();
+}
+
+void QtHost::SetFocus(Control& Which) {
+    const Control* Root = &Which;
+    while (Root->Parent != nullptr) Root = Root->Parent;
+    const auto Found = Windows.find(static_cast<const Form*>(Root));
+    if (Found == Windows.end()) return;
+    auto* Widget = Found->second->findChild<QWidget*>(QString::fromStdString(Which.Name));
+    if (Widget != nullptr) Widget->setFocus(Qt::TabFocusReason);  // with its text selected, to be typed anew
+}
+
+// No tick and no key press comes in between, for an event of the program is under way.
+void QtHost::ProcessPendingEvents() {
+    const TickGate::Hold Held(Gate);
+    const auto Comes = [](const QWindow* Window) { return Window->isVisible() && !Window->isExposed(); };
+    const auto OneComes = [&] { return std::ranges::any_of(QGuiApplication::topLevelWindows(), Comes); };
+    const QDeadlineTimer Deadline(500);  // milliseconds for the desktop to bring a new window up
+    do {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    } while (OneComes() && !Deadline.hasExpired());
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void QtHost::EndProcess() {
+    Ended = true;
+    QCoreApplication::exit(0);
+}
+
+}  // namespace gloamtide

@@ -1,0 +1,54 @@
+// The desktop that shows the program with Qt 6 Widgets.
+#pragma once
+
+#include <QWidget>
+#include <map>
+
+#include "platform/host.h"
+#include "platform/qt/form_window.h"
+#include "platform/qt/ticks.h"
+
+namespace gloamtide {
+
+// Lives inside a QApplication and is the host in force as long as it lives. Forms must outlive it.
+class QtHost : public Host {
+public:
+    QtHost();
+    ~QtHost() override;
+
+    int Run();  // the event loop, until the program ends the process; returns the exit code
+
+    // The window of a loaded form, else null.
+    QWidget* WindowOf(const Form& Which) const;
+
+    // Shows a window all over the screen, a frameless one over panels and docks too.
+    virtual void FillScreen(QWidget& Window);
+
+    double ScreenWidthTwips() override;
+    double ScreenHeightTwips() override;
+    DateTime SystemTime() override;
+    DateTime LocalTime() override;
+    void Beep() override;
+    MessageAnswer ShowMessage(const MessageBox& Message) override;
+    std::optional<std::string> ShowOpenDialog(const FileDialog& Dialog) override;
+    std::optional<std::string> ShowSaveDialog(const FileDialog& Dialog) override;
+    void ShowHelp(const std::string& /*FileName*/) override {}  // there is no help here
+    GlyphMask RenderText(const Font& TheFont, const std::string& Text) override;
+    void FormLoaded(Form& Which) override;
+    void FormUnloaded(Form& Which) override;
+    void SetFocus(Control& Which) override;
+    void ProcessPendingEvents() override;
+    void EndProcess() override;
+
+private:
+    QWidget* DialogParent() const;
+
+    TickGate Gate;
+    std::map<const Form*, FormWindow*> Windows;
+    bool Ended = false;
+};
+
+// A reading of the clock as the program has it.
+DateTime ToDateTime(const QDateTime& Reading);
+
+}  // namespace gloamtide
