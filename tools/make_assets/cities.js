@@ -1,44 +1,48 @@
-// The program's cities, their zones, and the pixels of the zone mask that they are sampled on.
+// The program's city table and the zone of each city.
 
-import { readFileSync } from "node:fs";
-import { maskWidth, mapHeight } from "./geometry.js";
-import { codeOfZone, isSea, zoneAt } from "./zones.js";
+import { readFileSync } from 'node:fs';
+import { kmPerDegree, radians } from './geometry.js';
+import { codeOfZone, isSeaZone, zoneAt } from './zones.js';
 
-const row = /^ *\{"(.+)", *(-?[\d.]+)F, *(-?[\d.]+)F\},$/gm;
+const table = new URL('../../places/cities.cpp', import.meta.url);
+const rows = 350;
 
-// The zone of a place on land. Coordinates are coarse: one that lies at sea has the zone of the nearest land within
-// half a degree, or, farther out, that of the sea.
-function zoneOf(longitude, latitude) {
-    for (let ring = 0; ring <= 10; ++ring) {
-        for (let step = 0; step < 32; ++step) {
-            const angle = (step / 32) * 2 * Math.PI;
-            const radius = ring * 0.05; // degrees of latitude
-            const zone = zoneAt(longitude + (radius * Math.cos(angle)) / Math.cos((latitude * Math.PI) / 180),
-                                latitude + radius * Math.sin(angle));
-            if (!isSea(zone)) return zone;
-        }
-    }
-    return zoneAt(longitude, latitude);
-}
-
-// A coordinate in whole minutes, as the program's dialog keeps it.
-function inMinutes(coordinate) {
-    const magnitude = Math.abs(coordinate);
-    const degrees = Math.floor(magnitude);
-    const minutes = Math.floor((magnitude + 0.005 - degrees) * 60);
-    return Math.sign(coordinate) * Math.fround(minutes / 60 + degrees);
-}
-
-function maskPixel(longitude, latitude) {
-    const x = Math.fround(((180 - inMinutes(longitude)) * maskWidth) / 360);
-    return { column: Math.floor(maskWidth - x), line: Math.floor(((80 - inMinutes(latitude)) * mapHeight) / 150) };
-}
-
-export function readCities() {
-    const source = readFileSync(new URL("../../places/cities.cpp", import.meta.url), "utf8");
-    return [...source.matchAll(row)].map(([, name, longitude, latitude]) => {
-        const place = [Math.fround(longitude), Math.fround(latitude)];
-        const zone = zoneOf(...place);
-        return { name, zone, code: codeOfZone(zone), ...maskPixel(...place) };
+// Rows of the table, from 1 on, with the zone at each city's own coordinates and its mask code.
+export function loadCities() {
+    const entries = [...readFileSync(table, 'utf8').matchAll(/\{"([^"]+)",\s*(-?[\d.]+)F,\s*(-?[\d.]+)F\}/g)];
+    if (entries.length !== rows) throw new Error(`${entries.length} cities instead of ${rows}`);
+    return entries.map(([, name, longitude, latitude], i) => {
+        const city = { row: i + 1, name, longitude: Number(longitude), latitude: Number(latitude) };
+        city.zone = zoneOnLand(city);
+        city.code = codeOfZone(city.zone);
+        return city;
     });
+}
+
+const searchKm = 60;
+const bearings = 72;
+
+// The table's coordinates are coarse: where they fall into the sea the nearest land has the city's zone.
+function zoneOnLand({ longitude, latitude, name }) {
+    for (let km = 0; km <= searchKm; ++km)
+        for (let i = 0; i < bearings; ++i) {
+            const bearing = radians((i * 360) / bearings);
+            const zone = zoneAt(
+                longitude + (km * Math.sin(bearing)) / (kmPerDegree * Math.cos(radians(latitude))),
+                latitude + (km * Math.cos(bearing)) / kmPerDegree);
+            if (!isSeaZone(zone)) return zone;
+        }
+    throw new Error(`no land within ${searchKm} km of ${name}`);
+}
+
+// The lines of the test's table of cities and zones.
+export function cityZonesText(cities) {
+    const heading = [
+        '# The zone of each city: row of the city table, code of the zone mask, zone.',
+        '# Made by tools/make_assets, not from the mask but from a time zone lookup at the coordinates of the city',
+        '# table (at the nearest land where they fall into the sea) and from the standard offset of that zone by',
+        `# the tz database ${process.versions.tz}.`,
+    ];
+    const lines = cities.map(({ row, code, zone, name }) => `${row} ${code} ${zone}  # ${name}`);
+    return [...heading, ...lines, ''].join('\n');
 }

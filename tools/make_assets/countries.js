@@ -1,121 +1,87 @@
-// The countries of the world, sampled many times a pixel.
+// Country polygons of Natural Earth, 1:50 million, and the share of every map pixel that each one covers.
 
-import { readFileSync } from "node:fs";
-import { createRequire } from "node:module";
-import { geoEquirectangular, geoPath } from "d3-geo";
-import { feature, neighbors } from "topojson-client";
-import { mapHeight, mapWidth, samples } from "./geometry.js";
+import { createCanvas } from '@napi-rs/canvas';
+import { geoEquirectangular, geoPath } from 'd3-geo';
+import { createRequire } from 'node:module';
+import { feature, neighbors } from 'topojson-client';
+import { columnsPerDegree, eachNeighbour, height, north, rowsPerDegree, width } from './geometry.js';
 
-const world = JSON.parse(readFileSync(createRequire(import.meta.url).resolve("world-atlas/countries-50m.json")));
-const geometries = world.objects.countries.geometries;
+const world = createRequire(import.meta.url)('world-atlas/countries-50m.json');
 
-export const countryNames = geometries.map((each) => each.properties.name);
-export const countryNeighbors = neighbors(geometries);
+export const countries = feature(world, world.objects.countries).features;
+export const borderingCountries = neighbors(world.objects.countries.geometries);
 
-// Degrees: x the longitude, y the latitude turned downward.
+const fine = 4; // the canvas is so many times finer than the map
+const canvas = createCanvas(width * fine, height * fine);
+const context = canvas.getContext('2d');
+context.setTransform(columnsPerDegree * fine, 0, 0, rowsPerDegree * fine,
+    180 * columnsPerDegree * fine, north * rowsPerDegree * fine);
 const degrees = geoEquirectangular().scale(180 / Math.PI).translate([0, 0]).precision(0);
+const draw = geoPath(degrees, context);
 
-// The rings of a polygon or of many, cut at longitude 180.
-function ringsOf(shape) {
-    const rings = [];
-    geoPath(degrees, {
-        moveTo: (x, y) => rings.push([[x, y]]),
-        lineTo: (x, y) => rings.at(-1).push([x, y]),
-        closePath: () => {},
-        arc: () => {},
-    })(shape);
-    return rings;
+// The map pixels that a shape's bounds touch: first column and row, count of columns and rows; null off the map.
+function pixelBounds(shape) {
+    const [[x0, y0], [x1, y1]] = draw.bounds(shape);
+    const left = Math.max(Math.floor((180 + x0) * columnsPerDegree), 0);
+    const top = Math.max(Math.floor((north + y0) * rowsPerDegree), 0);
+    const right = Math.min(Math.ceil((180 + x1) * columnsPerDegree), width);
+    const bottom = Math.min(Math.ceil((north + y1) * rowsPerDegree), height);
+    return right > left && bottom > top ? { left, top, columns: right - left, rows: bottom - top } : null;
 }
 
-// Calls fill(row, first, beyond) for every run of samples inside the rings, by the even-odd rule.
-function scan(rings, width, height, fill) {
-    const crossings = Array.from({ length: height }, () => []);
-    const toX = (longitude) => ((longitude + 180) / 360) * width - 0.5;
-    const toY = (downward) => ((80 + downward) / 150) * height - 0.5;
-    for (const ring of rings) {
-        ring.forEach(([x1, y1], place) => {
-            const [x2, y2] = ring[(place + 1) % ring.length];
-            const [upper, lower] = y1 < y2 ? [[x1, y1], [x2, y2]] : [[x2, y2], [x1, y1]];
-            const top = toY(upper[1]);
-            const bottom = toY(lower[1]);
-            for (let row = Math.max(0, Math.ceil(top)); row < Math.min(height, bottom); ++row) {
-                const part = (row - top) / (bottom - top);
-                crossings[row].push(toX(upper[0]) + part * (toX(lower[0]) - toX(upper[0])));
-            }
-        });
-    }
-    crossings.forEach((xs, row) => {
-        xs.sort((a, b) => a - b);
-        for (let pair = 0; pair + 1 < xs.length; pair += 2) {
-            const first = Math.max(0, Math.ceil(xs[pair]));
-            const beyond = Math.min(width, Math.ceil(xs[pair + 1]));
-            if (first < beyond) fill(row, first, beyond);
+// Calls visit(map pixel, share from 0 to 1) for every map pixel that the shape covers in part or whole.
+function eachCoveredPixel(shape, visit) {
+    const box = pixelBounds(shape);
+    if (!box) return;
+    context.clearRect(-180, -north, 360, height / rowsPerDegree);
+    context.beginPath();
+    draw(shape);
+    context.fill();
+    const { data } = context.getImageData(box.left * fine, box.top * fine, box.columns * fine, box.rows * fine);
+    for (let row = 0; row < box.rows; ++row)
+        for (let column = 0; column < box.columns; ++column) {
+            let alpha = 0;
+            for (let y = row * fine; y < (row + 1) * fine; ++y)
+                for (let x = column * fine; x < (column + 1) * fine; ++x)
+                    alpha += data[4 * (y * box.columns * fine + x) + 3];
+            if (alpha > 0) visit((box.top + row) * width + box.left + column, alpha / (255 * fine * fine));
         }
-    });
 }
 
-// Which country each sample lies in: its number plus 1, or 0 for the sea. samples by samples for each pixel.
-export function sampleCountries(width, height) {
-    const owner = new Uint16Array(width * height);
-    geometries.forEach((geometry, number) => {
-        scan(ringsOf(feature(world, geometry)), width, height, (row, first, beyond) => {
-            owner.fill(number + 1, row * width + first, row * width + beyond);
-        });
-    });
-    return owner;
-}
+const polygonsOf = ({ geometry }) => geometry.type === 'Polygon' ? [geometry.coordinates] : geometry.coordinates;
 
-// Less than two degrees from end to end.
-function isSmall([ring]) {
-    return [0, 1].every((axis) => {
-        const places = ring.map((point) => point[axis]);
-        return Math.max(...places) - Math.min(...places) < 2;
-    });
-}
+const small = 4; // columns or rows up to which an island is in danger of falling between the pixels
+const offshore = 0.3; // share from which an islet beside other land is drawn all the same: less only frays the coast
 
-// Islands too small to fill half a pixel: for each, the pixel that it fills best, its country and how far it is filled.
-function smallIslands() {
-    const found = [];
-    geometries.forEach((geometry, number) => {
-        const shape = feature(world, geometry).geometry;
-        const polygons = shape.type === "Polygon" ? [shape.coordinates] : shape.coordinates;
-        for (const coordinates of polygons.filter(isSmall)) {
-            const filled = new Map();
-            scan(ringsOf({ type: "Polygon", coordinates }), mapWidth * samples, mapHeight * samples, (row, first, beyond) => {
-                for (let x = first; x < beyond; ++x) {
-                    const pixel = Math.floor(row / samples) * mapWidth + Math.floor(x / samples);
-                    filled.set(pixel, (filled.get(pixel) ?? 0) + 1);
-                }
+// For each map pixel the index of the country that it shows, or -1 for sea. A pixel is land if half of it is;
+// an island without such a pixel keeps its best one.
+export function countryOfPixels() {
+    const land = new Float32Array(width * height);
+    const greatest = new Float32Array(width * height);
+    const owner = new Int16Array(width * height).fill(-1);
+    countries.forEach((country, number) => eachCoveredPixel(country, (pixel, share) => {
+        land[pixel] += share;
+        if (share > greatest[pixel]) {
+            greatest[pixel] = share;
+            owner[pixel] = number;
+        }
+    }));
+    const drawn = land.map((share) => (share >= 0.5 ? 1 : 0));
+    for (const country of countries)
+        for (const coordinates of polygonsOf(country)) {
+            const island = { type: 'Polygon', coordinates };
+            const box = pixelBounds(island);
+            if (!box || box.columns > small || box.rows > small) continue;
+            let best = -1;
+            let bestShare = 0;
+            eachCoveredPixel(island, (pixel, share) => {
+                if (drawn[pixel]) share = Infinity;
+                if (share > bestShare) [best, bestShare] = [pixel, share];
             });
-            const best = [...filled].reduce((a, b) => (b[1] > a[1] ? b : a), [0, 0]);
-            if (filled.size > 0 && best[1] < (samples * samples) / 2) {
-                found.push({ pixel: best[0], country: number + 1, share: best[1] / samples ** 2 });
-            }
+            if (best < 0) continue;
+            let besideLand = false;
+            eachNeighbour(best, (pixel) => (besideLand ||= drawn[pixel] === 1));
+            if (!besideLand || bestShare >= offshore) drawn[best] = 1;
         }
-    });
-    return found;
-}
-
-// The country of each pixel of the map, number plus 1, or 0 where most of the pixel is sea.
-export function countryMap(owner) {
-    const map = new Uint16Array(mapWidth * mapHeight);
-    for (let y = 0; y < mapHeight; ++y) {
-        for (let x = 0; x < mapWidth; ++x) {
-            const counts = new Map();
-            for (let dy = 0; dy < samples; ++dy) {
-                for (let dx = 0; dx < samples; ++dx) {
-                    const each = owner[(y * samples + dy) * mapWidth * samples + x * samples + dx];
-                    counts.set(each, (counts.get(each) ?? 0) + 1);
-                }
-            }
-            const sea = counts.get(0) ?? 0;
-            counts.delete(0);
-            if (sea > (samples * samples) / 2) continue;
-            map[y * mapWidth + x] = [...counts].reduce((a, b) => (b[1] > a[1] ? b : a))[0];
-        }
-    }
-    for (const { pixel, country, share } of smallIslands()) {
-        if (share > 0.15 && map[pixel] === 0) map[pixel] = country;
-    }
-    return map;
+    return owner.map((number, pixel) => (drawn[pixel] ? number : -1));
 }

@@ -1,38 +1,51 @@
-// Time zones of today, as the codes of the zone mask.
+// Time zone of a point of the Earth and the code that the program's zone table gives to its standard offset.
 
-import tzlookup from "@photostructure/tz-lookup";
+import tzLookup from '@photostructure/tz-lookup';
 
-const offsets = new Map();
+const year = 2026; // the rules of this year decide
 
-// Hours east of Greenwich of a zone's standard time, by the rules of 2026.
-function standardOffset(zone) {
-    if (!offsets.has(zone)) {
-        const format = new Intl.DateTimeFormat("en", { timeZone: zone, timeZoneName: "longOffset" });
-        const hours = [0, 6].map((month) => {
-            const name = format.formatToParts(new Date(Date.UTC(2026, month, 15))).find((part) => part.type === "timeZoneName").value;
-            const [, sign, hour, minute] = /^GMT(?:([+-])(\d+):(\d+))?$/.exec(name);
-            return sign ? (sign + "1") * (Number(hour) + Number(minute) / 60) : 0;
-        });
-        offsets.set(zone, Math.min(...hours));
+// Mask code of each offset, hours east of Greenwich, that occurs in the mask. Newfoundland's own code 35 does not.
+const codeOfOffset = new Map([
+    [-12, 240], [-11, 110], [-10, 100], [-9, 90], [-8, 80], [-7, 70], [-6, 60], [-5, 50], [-4, 40], [-3, 30],
+    [-2, 20], [-1, 10], [0, 0], [1, 230], [2, 220], [3, 210], [3.5, 205], [4, 200], [4.5, 195], [5, 190],
+    [5.5, 185], [5.75, 182], [6, 180], [6.5, 175], [7, 170], [8, 160], [9, 150], [9.5, 145], [10, 140], [11, 130],
+    [12, 120],
+]);
+
+// Offsets that the zone table lacks, or that the mask leaves to the user's own hand, and the ones that stand in.
+const standIn = new Map([[-9.5, -10], [-3.5, -4], [8.75, 8], [10.5, 10], [12.75, 12], [13, 12], [14, 12]]);
+
+export const codes = [...codeOfOffset.values()];
+
+// Name of the zone at a point, degrees east and north; "Etc/..." at sea.
+export const zoneAt = (longitude, latitude) => tzLookup(latitude, longitude);
+
+export const isSeaZone = (zone) => zone.startsWith('Etc/');
+
+const known = new Map();
+
+// Mask code of a zone.
+export function codeOfZone(zone) {
+    if (!known.has(zone)) {
+        const offset = standardOffset(zone);
+        const code = codeOfOffset.get(standIn.get(offset) ?? offset);
+        if (code === undefined) throw new Error(`no code for ${zone} at ${offset} hours`);
+        known.set(zone, code);
     }
-    return offsets.get(zone);
+    return known.get(zone);
 }
 
-// Offsets that the program's zone table lacks, and the neighbours that they go to.
-const neighbours = new Map([[-9.5, -10], [8.75, 8], [10.5, 10], [12.75, 12], [13, 12], [14, 12], [-3.5, -4]]);
-
-const tableOffsets = [
-    -12, -11, -10, -9, -8, -7, -6, -5, -4, -3, -2, -1, 0, 1, 2, 3, 3.5, 4, 4.5, 5, 5.5, 5.75, 6, 6.5, 7, 8, 9, 9.5, 10, 11, 12,
-];
-
-// Ten times the hours west; east of Greenwich that much less than 240, 12 hours west 240 itself.
-function codeOfOffset(hours) {
-    const tabled = neighbours.get(hours) ?? hours;
-    if (!tableOffsets.includes(tabled)) throw new Error(`no zone of ${hours} hours`);
-    if (tabled === -12) return 240;
-    return tabled > 0 ? Math.trunc(240 - 10 * tabled) : -10 * tabled + 0;
+// Hours east of Greenwich outside daylight saving: the smaller offset of January and July. That also gives what
+// clocks show most of the year in Ireland (0) and Morocco (+1), whose own law calls it otherwise.
+export function standardOffset(zone) {
+    const format = new Intl.DateTimeFormat('en-US', { timeZone: zone, timeZoneName: 'longOffset' });
+    const hours = [0, 6].map((month) => {
+        const parts = format.formatToParts(Date.UTC(year, month, 15, 12));
+        const text = parts.find((part) => part.type === 'timeZoneName').value;
+        const match = /^GMT(?:([+-])(\d\d):(\d\d))?$/.exec(text);
+        if (!match) throw new Error(`cannot read offset ${text} of ${zone}`);
+        const [, sign, hour = 0, minute = 0] = match;
+        return (sign === '-' ? -1 : 1) * (Number(hour) + Number(minute) / 60);
+    });
+    return Math.min(...hours) + 0; // no minus zero
 }
-
-export const zoneAt = (longitude, latitude) => tzlookup(latitude, longitude);
-export const isSea = (zone) => zone.startsWith("Etc/");
-export const codeOfZone = (zone) => codeOfOffset(standardOffset(zone));
