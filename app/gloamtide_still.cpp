@@ -20,9 +20,9 @@ namespace {
 
 using namespace gloamtide;
 
-constexpr int NarrowestScreen = 320;   // pixels
-constexpr int WidestScreen = 32767;    // pixels
-constexpr int HighestScreen = 1080;    // pixels; screens are three quarters as high as wide up to this
+constexpr int NarrowestScreen = 320;  // pixels
+constexpr int WidestScreen = 32767;   // pixels
+constexpr int HighestScreen = 1080;   // pixels; screens are three quarters as high as wide up to this
 const QString TimeFormat = "yyyy-MM-dd'T'HH:mm:ss'Z'";
 
 // What the command line asks for.
@@ -68,13 +68,16 @@ Wanted ReadCommandLine(const QStringList& Arguments) {
         Result.ScreenWidth = Text.toInt(&IsNumber);
         if (!IsNumber || Result.ScreenWidth < NarrowestScreen || Result.ScreenWidth > WidestScreen) {
             throw UsageError(QString("--screen-width takes %1 to %2 pixels, not %3")
-                                 .arg(NarrowestScreen).arg(WidestScreen).arg(Text));
+                                 .arg(NarrowestScreen)
+                                 .arg(WidestScreen)
+                                 .arg(Text));
         }
     }
     ValueOf(Parser, "almanac");
     Result.Almanac = Parser.isSet("almanac");
     const QStringList Rest = Parser.positionalArguments();
-    if (Rest.size() != 1) throw UsageError(Rest.isEmpty() ? "no picture to write is named" : "more than one picture named");
+    if (Rest.size() != 1)
+        throw UsageError(Rest.isEmpty() ? "no picture to write is named" : "more than one picture named");
     Result.Picture = Rest.constFirst();
     return Result;
 }
@@ -91,7 +94,8 @@ public:
     void Beep() override {}
 
     MessageAnswer ShowMessage(const MessageBox& Message) override {
-        QTextStream(stderr) << "gloamtide-still: " << QString::fromStdString(Message.Title + ": " + Message.Text) << '\n';
+        QTextStream(stderr) << "gloamtide-still: " << QString::fromStdString(Message.Title + ": " + Message.Text)
+                            << '\n';
         return Message.Buttons == MessageButtons::OK ? MessageAnswer::OK : MessageAnswer::No;
     }
 
@@ -147,7 +151,8 @@ int main(int Count, char** Arguments) {
         return 2;
     }
     StillHost Desktop(Asked);
-    state.StartupSource = Asked.Configuration.isEmpty() ? ConfigurationSource::Defaults : ConfigurationSource::NamedFile;
+    state.StartupSource =
+        Asked.Configuration.isEmpty() ? ConfigurationSource::Defaults : ConfigurationSource::NamedFile;
     state.ConfigFilePath = Asked.Configuration.toStdString();
     StartProgram();
     if (!WritePicture(Desktop.WindowOf(FormGTMain)->grab(), Asked.Picture)) {

@@ -1,8 +1,8 @@
 #include "assets/assets.h"
 
-#define GLOAMTIDE_ASSET(Routine, Symbol)                     \
-    extern "C" const unsigned char Symbol[];                 \
-    extern "C" const unsigned char Symbol##_end[];           \
+#define GLOAMTIDE_ASSET(Routine, Symbol)           \
+    extern "C" const unsigned char Symbol[];       \
+    extern "C" const unsigned char Symbol##_end[]; \
     gloamtide::AssetBytes gloamtide::Routine() { return {Symbol, Symbol##_end}; }
 
 GLOAMTIDE_ASSET(NaturalDayBmp, gloamtide_natural_day)

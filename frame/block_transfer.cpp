@@ -106,7 +106,8 @@ struct StretchAxis {
     StretchAxis(int To, int Length, int ToSize, int From, int FromLength, int FromSize) : FirstInside(std::max(To, 0)) {
         const std::int64_t End = std::min<std::int64_t>(static_cast<std::int64_t>(To) + Length, ToSize);
         const int Lowest = std::max(From, 0);
-        const int Beyond = static_cast<int>(std::min<std::int64_t>(static_cast<std::int64_t>(From) + FromLength, FromSize));
+        const int Beyond =
+            static_cast<int>(std::min<std::int64_t>(static_cast<std::int64_t>(From) + FromLength, FromSize));
         const auto SourcePlace = [=](double Step) { return From + Step * FromLength / Length; };
         for (std::int64_t Place = FirstInside; Place < End; ++Place) {
             const double Step = static_cast<double>(Place - To);
@@ -156,7 +157,8 @@ void StretchBlt(PictureSurface& Destination, int X, int Y, int Width, int Height
         if (Vertical.Weights.empty()) continue;
         for (std::size_t Step = 0; Step < Vertical.Weights.size(); ++Step) {
             const std::size_t Needed = static_cast<std::size_t>(Vertical.First) + Step;
-            if (Stretched[Needed].empty()) Stretched[Needed] = StretchedRow(FromPixels.Row(static_cast<int>(Needed)), Columns);
+            if (Stretched[Needed].empty())
+                Stretched[Needed] = StretchedRow(FromPixels.Row(static_cast<int>(Needed)), Columns);
         }
         Color* Target = To.Row(Rows.FirstInside + static_cast<int>(Row)) + Columns.FirstInside;
         for (std::size_t Column = 0; Column < Columns.Mixes.size(); ++Column) {

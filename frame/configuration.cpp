@@ -31,7 +31,8 @@ public:
     std::string Text() {
         const std::size_t Start = Next + 2;
         const std::size_t TextLength = Number(2);
-        if (TextLength > LongestName || Start + TextLength > Length) throw FileFailure("bad location name: " + FilePath);
+        if (TextLength > LongestName || Start + TextLength > Length)
+            throw FileFailure("bad location name: " + FilePath);
         return FromCodePage(Bytes.substr(Start, TextLength));
     }
 

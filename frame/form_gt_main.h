@@ -9,7 +9,7 @@ struct MainForm : Form {
     MainForm();
 
     PictureSurface PictureGTContainer{*this, "PictureGTContainer"};
-    PictureSurface PictureGT{PictureGTContainer, "PictureGT"};  // the map
+    PictureSurface PictureGT{PictureGTContainer, "PictureGT"};                           // the map
     ControlArray<PictureSurface, 4> PictureGTData{PictureGTContainer, "PictureGTData"};  // a panel for each ScreenClass
 
     // On the map.

@@ -11,9 +11,8 @@ PicturesForm::PicturesForm() : Form("FormPictures", 0.0, 0.0) {
 }
 
 std::array<PictureSurface*, 10> PicturesForm::WorkPictures() {
-    return {&PictureDay,       &PictureNight,       &PictureDaySplit,    &PictureNightSplit,
-            &PictureCitiesDay, &PictureCitiesNight, &PictureTZDay,       &PictureTZNight,
-            &PictureTZCitiesDay, &PictureTZCitiesNight};
+    return {&PictureDay,         &PictureNight, &PictureDaySplit, &PictureNightSplit,  &PictureCitiesDay,
+            &PictureCitiesNight, &PictureTZDay, &PictureTZNight,  &PictureTZCitiesDay, &PictureTZCitiesNight};
 }
 
 }  // namespace gloamtide

@@ -79,9 +79,7 @@ void LayOutMainWindow() {
 }
 
 void ScaleMapPictures() {
-    const auto ScaleOne = [](PictureSurface& Which, double UnitsAcross) {
-        Which.Scale(UnitsAcross, 80.0, 0.0, -70.0);
-    };
+    const auto ScaleOne = [](PictureSurface& Which, double UnitsAcross) { Which.Scale(UnitsAcross, 80.0, 0.0, -70.0); };
     for (PictureSurface* Each : FormPictures.WorkPictures()) ScaleOne(*Each, state.MapWidth);
     ScaleOne(FormGTMain.PictureGT, state.MapWidth);
     ScaleOne(FormPictures.PictureTZmask, FormPictures.PictureTZmask.Width.Pixels());

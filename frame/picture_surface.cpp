@@ -12,10 +12,9 @@ namespace gloamtide {
 
 Color QBColor(int Index) {
     static constexpr std::array<Color, 16> Palette = {
-        RGB(0, 0, 0),       RGB(0, 0, 128),   RGB(0, 128, 0),   RGB(0, 128, 128),
-        RGB(128, 0, 0),     RGB(128, 0, 128), RGB(128, 128, 0), RGB(192, 192, 192),
-        RGB(128, 128, 128), RGB(0, 0, 255),   RGB(0, 255, 0),   RGB(0, 255, 255),
-        RGB(255, 0, 0),     RGB(255, 0, 255), RGB(255, 255, 0), RGB(255, 255, 255),
+        RGB(0, 0, 0),     RGB(0, 0, 128),     RGB(0, 128, 0),     RGB(0, 128, 128),   RGB(128, 0, 0), RGB(128, 0, 128),
+        RGB(128, 128, 0), RGB(192, 192, 192), RGB(128, 128, 128), RGB(0, 0, 255),     RGB(0, 255, 0), RGB(0, 255, 255),
+        RGB(255, 0, 0),   RGB(255, 0, 255),   RGB(255, 255, 0),   RGB(255, 255, 255),
     };
     return Index >= 0 && Index < 16 ? Palette[static_cast<std::size_t>(Index)] : RGB(0, 0, 0);
 }
@@ -183,7 +182,9 @@ long PictureSurface::Point(double X, double Y) const {
 namespace {
 
 Color Blend(Color Under, Color Over, int Coverage) {
-    const auto Mix = [Coverage](int Below, int Above) { return (Below * (255 - Coverage) + Above * Coverage + 127) / 255; };
+    const auto Mix = [Coverage](int Below, int Above) {
+        return (Below * (255 - Coverage) + Above * Coverage + 127) / 255;
+    };
     return RGB(Mix(RedOf(Under), RedOf(Over)), Mix(GreenOf(Under), GreenOf(Over)), Mix(BlueOf(Under), BlueOf(Over)));
 }
 
@@ -198,7 +199,8 @@ void PictureSurface::Print(const std::string& Text) {
         const int EndX = std::min(Target.Width, Place->X + Mask.Width);
         const int EndY = std::min(Target.Height, Place->Y + Mask.Height);
         for (int Y = FromY; Y < EndY; ++Y) {
-            const std::uint8_t* Coverage = Mask.Coverage.data() + static_cast<std::ptrdiff_t>(Y - Place->Y) * Mask.Width;
+            const std::uint8_t* Coverage =
+                Mask.Coverage.data() + static_cast<std::ptrdiff_t>(Y - Place->Y) * Mask.Width;
             for (int X = FromX; X < EndX; ++X) {
                 Target.Row(Y)[X] = Blend(Target.Row(Y)[X], ForeColor, Coverage[X - Place->X]);
             }

@@ -63,13 +63,13 @@ struct SharedState {
     double WorkJD = 0.0;                 // days, always Greenwich
 
     // clock/animation
-    float AnimYears = 0.0F;                   // years a step, -100 to 100
-    float AnimDays = 0.0F;                    // days a step, -365 to 365
-    float AnimHours = 1.0F;                   // hours a step, -24 to 24
-    Boolean AnimForward = True;               // True forward in time
-    double AnimStepYears = 0.0;               // signed step of the running animation
-    double AnimStepDays = 0.0;                // the same, hours included
-    std::int16_t SavedLocalSecond = 0;        // seconds shown before the step
+    float AnimYears = 0.0F;             // years a step, -100 to 100
+    float AnimDays = 0.0F;              // days a step, -365 to 365
+    float AnimHours = 1.0F;             // hours a step, -24 to 24
+    Boolean AnimForward = True;         // True forward in time
+    double AnimStepYears = 0.0;         // signed step of the running animation
+    double AnimStepDays = 0.0;          // the same, hours included
+    std::int16_t SavedLocalSecond = 0;  // seconds shown before the step
     std::int16_t SavedGreenwichSecond = 0;
 
     // frame/startup: the location
@@ -96,25 +96,25 @@ struct SharedState {
     ConfigurationSource StartupSource = ConfigurationSource::StartupFile;
 
     // frame/startup: the screen, fixed at the start
-    std::int16_t ScreenWidthPx = 0;   // pixels
-    std::int16_t ScreenClass = 0;     // 0 to 3, selects every size of the interface
-    std::int16_t MapWidth = 0;        // pixels
-    std::int16_t MapHeight = 0;       // pixels
-    float CityMarkerRadius = 0.0F;    // map units, that is pixels
-    float MarkerRadiusX = 0.0F;       // map units
-    float MarkerRadiusY = 0.0F;       // degrees of latitude
+    std::int16_t ScreenWidthPx = 0;  // pixels
+    std::int16_t ScreenClass = 0;    // 0 to 3, selects every size of the interface
+    std::int16_t MapWidth = 0;       // pixels
+    std::int16_t MapHeight = 0;      // pixels
+    float CityMarkerRadius = 0.0F;   // map units, that is pixels
+    float MarkerRadiusX = 0.0F;      // map units
+    float MarkerRadiusY = 0.0F;      // degrees of latitude
 
     // astro/solar: set by SolarPosition. Angles are not reduced to 0..360
-    double JulianCenturies = 0.0;         // T, Julian centuries from 2451545.0
-    double JulianCenturies2 = 0.0;        // T squared
-    double JulianCenturies3 = 0.0;        // T cubed
-    double MeanObliquity = 0.0;           // degrees
-    double SunMeanAnomaly = 0.0;          // degrees
-    double SunEquationOfCentre = 0.0;     // degrees
-    double SunMeanLongitude = 0.0;        // degrees
-    double SunTrueLongitude = 0.0;        // degrees
+    double JulianCenturies = 0.0;      // T, Julian centuries from 2451545.0
+    double JulianCenturies2 = 0.0;     // T squared
+    double JulianCenturies3 = 0.0;     // T cubed
+    double MeanObliquity = 0.0;        // degrees
+    double SunMeanAnomaly = 0.0;       // degrees
+    double SunEquationOfCentre = 0.0;  // degrees
+    double SunMeanLongitude = 0.0;     // degrees
+    double SunTrueLongitude = 0.0;     // degrees
     double EarthEccentricity = 0.0;
-    double SunDeclination = 0.0;          // degrees, north positive, about -23.44 to 23.44
+    double SunDeclination = 0.0;  // degrees, north positive, about -23.44 to 23.44
     double TanSunDeclination = 0.0;
     float SunRightAscension = 0.0F;       // hours, 0 up to 24
     float EquationOfTime = 0.0F;          // minutes, positive when the Sun is ahead of the clock
@@ -199,10 +199,10 @@ struct SharedState {
     float HourLineEndY = 0.0F;                // dial units
     std::int16_t FirstDialHour = 0;           // hours that get a line
     std::int16_t LastDialHour = 0;
-    double SolarHourAngle = 0.0;              // degrees, 0 at solar noon, 0 up to 360
+    double SolarHourAngle = 0.0;  // degrees, 0 at solar noon, 0 up to 360
     double SinSunAltitude = 0.0;
-    double SunAltitude = 0.0;                 // degrees
-    double SunAzimuth = 0.0;                  // degrees clockwise from the dial's top, direction of the shadow
+    double SunAltitude = 0.0;  // degrees
+    double SunAzimuth = 0.0;   // degrees clockwise from the dial's top, direction of the shadow
 
     // sundial/form_sundial_options and sundial/mottos
     Boolean SundialLongitudeCorrection = False;

@@ -29,7 +29,8 @@ void ResetMapPictures() {
     const auto Copy = [](PictureSurface& To, PictureSurface& From) {
         BitBlt(To, 0, 0, state.MapWidth, state.MapHeight, From, 0, 0);
     };
-    for (PictureSurface* To : {&F.PictureCitiesNight, &F.PictureTZNight, &F.PictureTZCitiesNight, &F.PictureNightSplit}) {
+    for (PictureSurface* To :
+         {&F.PictureCitiesNight, &F.PictureTZNight, &F.PictureTZCitiesNight, &F.PictureNightSplit}) {
         Copy(*To, F.PictureNight);
     }
     for (PictureSurface* To : {&F.PictureCitiesDay, &F.PictureTZDay, &F.PictureTZCitiesDay, &F.PictureDaySplit}) {

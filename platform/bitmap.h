@@ -11,7 +11,8 @@ namespace gloamtide {
 using Color = std::uint32_t;
 
 constexpr Color RGB(int Red, int Green, int Blue) {
-    return static_cast<Color>(Red & 255) | static_cast<Color>(Green & 255) << 8U | static_cast<Color>(Blue & 255) << 16U;
+    return static_cast<Color>(Red & 255) | static_cast<Color>(Green & 255) << 8U |
+           static_cast<Color>(Blue & 255) << 16U;
 }
 
 constexpr int RedOf(Color Value) { return static_cast<int>(Value & 255U); }

@@ -112,10 +112,9 @@ bool ComesBefore(const std::string& First, const std::string& Second) {
 void ComboBox::AddItem(const std::string& NewText) {
     auto Place = Entries.end();
     if (Sorted) {
-        Place = std::upper_bound(Entries.begin(), Entries.end(), NewText,
-                                 [](const std::string& Added, const Entry& There) {
-                                     return ComesBefore(Added, There.Text);
-                                 });
+        Place = std::upper_bound(
+            Entries.begin(), Entries.end(), NewText,
+            [](const std::string& Added, const Entry& There) { return ComesBefore(Added, There.Text); });
     }
     NewIndex = static_cast<int>(Place - Entries.begin());
     Entries.insert(Place, Entry{NewText, 0});

@@ -157,7 +157,7 @@ class Label : public Control {
 public:
     Property<std::string> Caption{*this};
     Property<Alignment> TextAlignment{*this, Alignment::Left};
-    Property<bool> Opaque{*this, false};   // the background filled with BackColor
+    Property<bool> Opaque{*this, false};  // the background filled with BackColor
     Property<bool> WordWrap{*this, false};
 
     using Control::Control;
@@ -220,7 +220,7 @@ enum class ComboStyle {
 class ComboBox : public Control {
 public:
     const ComboStyle Style;
-    const bool Sorted;                  // entries in the order of their texts, letter case set aside
+    const bool Sorted;                   // entries in the order of their texts, letter case set aside
     Property<int> ListIndex{*this, -1};  // a position beyond the list selects nothing; a new one raises Click
     Property<std::string> Text{*this};   // the selected entry, or what was typed
     int NewIndex = -1;                   // position of the entry added last
@@ -237,8 +237,8 @@ public:
     int ItemData(int Position) const { return Entries.at(static_cast<std::size_t>(Position)).Data; }
     void SetItemData(int Position, int Data) { Entries.at(static_cast<std::size_t>(Position)).Data = Data; }
 
-    void Pick(int Position);                 // the user picks an entry, perhaps the selected one again
-    void Type(const std::string& NewText);   // the user types into a DropDownCombo
+    void Pick(int Position);                // the user picks an entry, perhaps the selected one again
+    void Type(const std::string& NewText);  // the user types into a DropDownCombo
     void PropertyAssigned(const void* Which, bool Differs) override;
 
 private:
@@ -253,8 +253,8 @@ private:
 // Setting BackColor clears the picture to that colour.
 class PictureBox : public Container {
 public:
-    Bitmap Picture;  // the inner area, or empty
-    Property<int> BorderWidth{*this, 0};  // pixels
+    Bitmap Picture;                                   // the inner area, or empty
+    Property<int> BorderWidth{*this, 0};              // pixels
     std::function<void(float X, float Y)> MouseMove;  // the pointer, in user units
 
     PictureBox(Container& TheParent, std::string TheName) : Container(&TheParent, std::move(TheName)) {}

@@ -10,8 +10,8 @@ namespace {
 // The clock's reading a while later. Only for readings that name a real date.
 DateTime Later(const DateTime& Reading, int Milliseconds) {
     using namespace std::chrono;
-    const sys_days Date = year(Reading.Year) / month(static_cast<unsigned>(Reading.Month)) /
-                          day(static_cast<unsigned>(Reading.Day));
+    const sys_days Date =
+        year(Reading.Year) / month(static_cast<unsigned>(Reading.Month)) / day(static_cast<unsigned>(Reading.Day));
     const auto Instant = sys_time<milliseconds>(Date) + hours(Reading.Hour) + minutes(Reading.Minute) +
                          seconds(Reading.Second) + milliseconds(Reading.Milliseconds + Milliseconds);
     const auto Day = floor<days>(Instant);

@@ -18,7 +18,7 @@ public:
     int ScreenHeight = 1024;  // pixels
     DateTime System = {2026, 6, 1, 1, 12, 0, 0, 0};
     DateTime Local = {2026, 6, 1, 1, 7, 0, 0, 0};
-    std::deque<MessageAnswer> Answers;                // to message boxes, in turn; without one: OK or No
+    std::deque<MessageAnswer> Answers;                 // to message boxes, in turn; without one: OK or No
     std::deque<std::optional<std::string>> FileNames;  // given in file dialogs, in turn; without one: Cancel
 
     // --- recorded

@@ -30,7 +30,8 @@ std::optional<std::string> Chosen(QFileDialog& Box, const FileDialog& Dialog) {
 MessageAnswer AskMessage(const MessageBox& Message, QWidget* Parent) {
     const bool Choice = Message.Buttons == MessageButtons::YesNo;
     QMessageBox Box(QtIcon(Message.Icon), QString::fromStdString(Message.Title), QString::fromStdString(Message.Text),
-                    Choice ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok), Parent);
+                    Choice ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok),
+                    Parent);
     Box.setObjectName("MessageBox");
     Box.setTextFormat(Qt::PlainText);
     Box.setWindowModality(Qt::ApplicationModal);

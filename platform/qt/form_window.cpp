@@ -112,8 +112,7 @@ void FormWindow::keyPressEvent(QKeyEvent* Event) {
     const CommandButton* Button = nullptr;
     if (Enter) Button = FindButton(Record, &CommandButton::Default);
     if (Escape) Button = FindButton(Record, &CommandButton::Cancel);
-    auto* Widget =
-        Button == nullptr ? nullptr : Board->findChild<QPushButton*>(QString::fromStdString(Button->Name));
+    auto* Widget = Button == nullptr ? nullptr : Board->findChild<QPushButton*>(QString::fromStdString(Button->Name));
     if (Widget != nullptr && Widget->isVisible()) {
         Widget->click();
     } else {

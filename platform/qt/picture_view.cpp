@@ -1,11 +1,12 @@
 #include "platform/qt/picture_view.h"
 
+#include <qdrawutil.h>
+
 #include <QImage>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QtMath>
-#include <qdrawutil.h>
 
 #include "platform/qt/control_watcher.h"
 

@@ -33,8 +33,8 @@ DateTime ToDateTime(const QDateTime& Reading) {
     const auto Short = [](int Value) { return static_cast<std::int16_t>(Value); };
     const QDate Date = Reading.date();
     const QTime Time = Reading.time();
-    return {Short(Date.year()),   Short(Date.month()),   Short(Date.dayOfWeek() % 7), Short(Date.day()),
-            Short(Time.hour()), Short(Time.minute()), Short(Time.second()),         Short(Time.msec())};
+    return {Short(Date.year()), Short(Date.month()),  Short(Date.dayOfWeek() % 7), Short(Date.day()),
+            Short(Time.hour()), Short(Time.minute()), Short(Time.second()),        Short(Time.msec())};
 }
 
 QtHost::QtHost() {

@@ -7,7 +7,8 @@ TimerDriver::TimerDriver(Timer& TheRecord, TickGate& TheGate) : Record(TheRecord
     Clock.setTimerType(Qt::PreciseTimer);
     QObject::connect(&Clock, &QTimer::timeout, &Clock, [this] { FallDue(); });
     // Queued: the handler that opened the dialog runs to its end first.
-    QObject::connect(&Gate, &TickGate::Opened, &Clock, [this] { CatchUp(); }, Qt::QueuedConnection);
+    QObject::connect(
+        &Gate, &TickGate::Opened, &Clock, [this] { CatchUp(); }, Qt::QueuedConnection);
     Record.Observer = this;
     ElementChanged(Record);
 }

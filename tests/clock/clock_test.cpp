@@ -63,10 +63,11 @@ TEST_F(Clock, AtTheUpperLimitTheProgramFreezesWithOneMessage) {
     ASSERT_EQ(Desktop.Messages.size(), 1U);
     EXPECT_EQ(Desktop.Messages[0].Box.Title, "Gloamtide Year Limit Reached");
     EXPECT_EQ(Desktop.Messages[0].Box.Icon, MessageIcon::Exclamation);
-    EXPECT_EQ(Desktop.Messages[0].Box.Text,
-              "The Gloamtide year has passed out of its range of -4000 to +4000. Please use the Configure or File/Open "
-              "Menu to restore the year to within the valid range.  The Map Display and Almanac Panel will remain frozen "
-              "until the year is valid.");
+    EXPECT_EQ(
+        Desktop.Messages[0].Box.Text,
+        "The Gloamtide year has passed out of its range of -4000 to +4000. Please use the Configure or File/Open "
+        "Menu to restore the year to within the valid range.  The Map Display and Almanac Panel will remain frozen "
+        "until the year is valid.");
     EXPECT_EQ(Desktop.Messages[0].BeepsBefore, 1);
     EXPECT_FALSE(FormGTMain.Timer1.Enabled);
     EXPECT_TRUE(FormGTMain.Timer2.Enabled);

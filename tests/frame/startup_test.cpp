@@ -20,14 +20,23 @@ std::string ConfigurationBytes(const std::string& Name = std::string("\4\0Oslo",
         std::string("\0\0\x80\xBF", 4),          // zone -1.0
         std::string("\1\0", 2),
         std::string("\1\0", 2),  // political
-        Yes, No, Yes, No, Yes, No,
-        std::string("\0\0\0\x40", 4),      // 2.0 years
-        std::string("\0\0\x40\xC0", 4),    // -3.0 days
-        std::string("\0\0\0\x3F", 4),      // 0.5 hours
-        No, Name,
+        Yes,
+        No,
+        Yes,
+        No,
+        Yes,
+        No,
+        std::string("\0\0\0\x40", 4),    // 2.0 years
+        std::string("\0\0\x40\xC0", 4),  // -3.0 days
+        std::string("\0\0\0\x3F", 4),    // 0.5 hours
+        No,
+        Name,
         std::string("\0\0\0\0\0\0\x4E\x40", 8),  // 60.0 north
         std::string("\0\0\x2C\x41", 4),          // 10.75 east
-        No, Yes, No, Yes,
+        No,
+        Yes,
+        No,
+        Yes,
     };
     std::string Bytes;
     for (const std::string& Record : Records) {
@@ -175,9 +184,9 @@ TEST_F(Startup, TheScreenSelectsClassAndMap) {
     struct Screen {
         int Width, Class, MapWidth, MapHeight;
     };
-    constexpr Screen Screens[] = {{320, 0, 580, 284},  {640, 0, 580, 284},   {799, 0, 580, 284},  {800, 1, 740, 380},
-                                  {1023, 1, 740, 380}, {1024, 2, 956, 510},  {1279, 2, 956, 510}, {1280, 3, 1182, 640},
-                                  {7680, 3, 1182, 640}, {100000, 3, 1182, 640}};
+    constexpr Screen Screens[] = {
+        {320, 0, 580, 284},  {640, 0, 580, 284},  {799, 0, 580, 284},   {800, 1, 740, 380},   {1023, 1, 740, 380},
+        {1024, 2, 956, 510}, {1279, 2, 956, 510}, {1280, 3, 1182, 640}, {7680, 3, 1182, 640}, {100000, 3, 1182, 640}};
     for (const Screen& S : Screens) {
         SCOPED_TRACE(S.Width);
         Desktop.ScreenWidth = S.Width;

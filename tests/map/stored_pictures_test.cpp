@@ -45,9 +45,8 @@ TEST(StoredPictures, TheSeaIsFlatAndTheNightIsTheDayDarkened) {
         int SeaPixels = 0;
         for (std::size_t Pixel = 0; Pixel < Pair.Day.Pixels.size(); ++Pixel) {
             const Color Lit = Pair.Day.Pixels[Pixel];
-            const Color Expected = Lit == DaySea
-                                       ? Pair.NightSea
-                                       : RGB(Darker(RedOf(Lit)), Darker(GreenOf(Lit)), Darker(BlueOf(Lit)));
+            const Color Expected =
+                Lit == DaySea ? Pair.NightSea : RGB(Darker(RedOf(Lit)), Darker(GreenOf(Lit)), Darker(BlueOf(Lit)));
             ASSERT_EQ(Pair.Night.Pixels[Pixel], Expected) << Pixel;
             SeaPixels += Lit == DaySea ? 1 : 0;
         }
@@ -59,15 +58,18 @@ TEST(StoredPictures, TheSeaIsFlatAndTheNightIsTheDayDarkened) {
 
 TEST(StoredPictures, LandAndSeaLieWhereTheyBelong) {
     const auto IsSea = [](const Bitmap& Map, double Longitude, double Latitude) {
-        return Map.Row(static_cast<int>((80.0 - Latitude) * 3.4))[static_cast<int>((Longitude + 180.0) / 0.375)] == DaySea;
+        return Map.Row(static_cast<int>((80.0 - Latitude) * 3.4))[static_cast<int>((Longitude + 180.0) / 0.375)] ==
+               DaySea;
     };
     for (const Bitmap& Map : {DecodeBmp(NaturalDayBmp()), DecodeBmp(PoliticalDayBmp())}) {
-        for (const auto& [Longitude, Latitude] : {std::pair(-98.0, 39.0), std::pair(25.0, 0.0), std::pair(134.0, -25.0),
-                                                  std::pair(100.0, 60.0), std::pair(-42.0, 72.0), std::pair(-60.0, -10.0)}) {
+        for (const auto& [Longitude, Latitude] :
+             {std::pair(-98.0, 39.0), std::pair(25.0, 0.0), std::pair(134.0, -25.0), std::pair(100.0, 60.0),
+              std::pair(-42.0, 72.0), std::pair(-60.0, -10.0)}) {
             EXPECT_FALSE(IsSea(Map, Longitude, Latitude)) << Longitude;
         }
-        for (const auto& [Longitude, Latitude] : {std::pair(-150.0, 0.0), std::pair(-30.0, 30.0), std::pair(80.0, -20.0),
-                                                  std::pair(18.0, 35.0), std::pair(179.9, -55.0), std::pair(-90.0, 25.0)}) {
+        for (const auto& [Longitude, Latitude] :
+             {std::pair(-150.0, 0.0), std::pair(-30.0, 30.0), std::pair(80.0, -20.0), std::pair(18.0, 35.0),
+              std::pair(179.9, -55.0), std::pair(-90.0, 25.0)}) {
             EXPECT_TRUE(IsSea(Map, Longitude, Latitude)) << Longitude;
         }
     }
@@ -102,7 +104,8 @@ TEST_F(CachedPictures, TakeTheMapTypeAndKeepTheSeaFlat) {
         const Color Sea = F.PictureNight.Picture.Row(300)[100];
         EXPECT_EQ(Sea, Type == 0 ? RGB(0, 10, 54) : RGB(0, 0, 3));
         EXPECT_EQ(F.PictureDay.Picture.Row(300)[100], DaySea);
-        for (const PictureSurface* Copy : {&F.PictureCitiesDay, &F.PictureTZDay, &F.PictureTZCitiesDay, &F.PictureDaySplit}) {
+        for (const PictureSurface* Copy :
+             {&F.PictureCitiesDay, &F.PictureTZDay, &F.PictureTZCitiesDay, &F.PictureDaySplit}) {
             EXPECT_EQ(Copy->Picture.Pixels, F.PictureDay.Picture.Pixels);
         }
     }

@@ -1,0 +1,96 @@
+// The built program on a display of its own, with real keys.
+
+#include <gtest/gtest.h>
+
+#include <QDeadlineTimer>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+// A virtual display with a window manager, for as long as it lives.
+class Display {
+public:
+    Display() {
+        Server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
+        if (!Server.waitForStarted() || !Server.waitForReadyRead(20000)) return;
+        Name = ":" + QString::fromUtf8(Server.readLine()).trimmed();
+        Manager.setProcessEnvironment(Environment());
+        Manager.start("openbox", {"--sm-disable"});
+        Manager.waitForStarted();
+    }
+    ~Display() {
+        for (QProcess* Each : {&Manager, &Server}) {
+            Each->terminate();
+            Each->waitForFinished();
+        }
+    }
+    Display(const Display&) = delete;
+    Display& operator=(const Display&) = delete;
+
+    QProcessEnvironment Environment() const {
+        QProcessEnvironment Result = QProcessEnvironment::systemEnvironment();
+        Result.insert("DISPLAY", Name);
+        Result.insert("QT_QPA_PLATFORM", "xcb");
+        return Result;
+    }
+
+    // Output of xdotool, without the end of its last line.
+    QString Do(const QStringList& Arguments) const {
+        QProcess Tool;
+        Tool.setProcessEnvironment(Environment());
+        Tool.start("xdotool", Arguments);
+        Tool.waitForFinished();
+        return QString::fromUtf8(Tool.readAllStandardOutput()).trimmed();
+    }
+
+    // The window of that title, once it has the keyboard; an empty text where it does not come in time.
+    QString Await(const QString& Title) const {
+        QString Found;
+        const bool Came = QTest::qWaitFor(
+            [&] {
+                const QString Active = Do({"getactivewindow", "getwindowname"});
+                if (Active == Title) Found = Do({"getactivewindow"});
+                return !Found.isEmpty();
+            },
+            30000);
+        return Came ? Found : QString();
+    }
+
+    QString Name;
+
+private:
+    QProcess Server;
+    QProcess Manager;
+};
+
+bool Installed(const QStringList& Programs) {
+    return std::all_of(Programs.begin(), Programs.end(),
+                       [](const QString& Each) { return !QStandardPaths::findExecutable(Each).isEmpty(); });
+}
+
+TEST(Program, StartsTellsItsFallbackShowsTheMapAndClosesByItsCloseButton) {
+    if (!Installed({"Xvfb", "openbox", "xdotool"})) GTEST_SKIP() << "needs Xvfb, openbox and xdotool";
+    const Display Screen;
+    ASSERT_FALSE(Screen.Name.isEmpty());
+    const QTemporaryDir Folder;
+    QProcess Program;
+    Program.setProcessEnvironment(Screen.Environment());
+    Program.setWorkingDirectory(Folder.path());
+    Program.start(GLOAMTIDE_PROGRAM, QStringList());
+
+    ASSERT_FALSE(Screen.Await("File Not Found").isEmpty());
+    Screen.Do({"key", "Return"});
+    const QString Main = Screen.Await("Gloamtide (Config File not found -- default configuration used)");
+    ASSERT_FALSE(Main.isEmpty());
+    const QString Geometry = Screen.Do({"getwindowgeometry", "--shell", Main});
+    EXPECT_TRUE(Geometry.contains("WIDTH=12")) << Geometry.toStdString();  // all over the screen, but for a frame
+    Screen.Do({"key", "alt+F4"});
+    EXPECT_TRUE(Program.waitForFinished(20000));
+    EXPECT_EQ(Program.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(Program.exitCode(), 0);
+}
+
+}  // namespace
