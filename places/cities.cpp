@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "frame/state.h"
+#include "places/form_configure.h"
 
 namespace gloamtide {
 namespace {
@@ -418,6 +419,8 @@ void BuildCityTable() {
         state.CityLongitude[state.CityCount] = Row.Longitude;
         state.CityLatitude[state.CityCount] = Row.Latitude;
         state.CityName[state.CityCount] = Row.Name;
+        FormConfigure.ComboCityName.AddItem(Row.Name);
+        FormConfigure.ComboCityName.SetItemData(FormConfigure.ComboCityName.NewIndex, state.CityCount);
     }
 }
 
