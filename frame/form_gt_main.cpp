@@ -10,20 +10,26 @@ MainForm::MainForm() : Form("FormGTMain", 0.0, 0.0) {
     PictureGT.BackColor = RGB(0, 0, 0);
     PictureGT.BorderWidth = 2;
 
-    constexpr double PanelSizes[4][2] = {{8295, 1425}, {9615, 1830}, {10695, 2220}, {12975, 2940}};  // twips
-    for (std::size_t Class = 0; Class < 4; ++Class) {
-        PictureGTData[Class].BackColor = RGB(0, 0, 0);
-        PictureGTData[Class].Visible = false;
-        PictureGTData[Class].Size(PanelSizes[Class][0] / TwipsPerPixel, PanelSizes[Class][1] / TwipsPerPixel);
+    DesignPanels();
+
+    for (Label* Each : {&LabelEastOfIDLDate, &LabelWestOfIDLDate, &LabelZonehour}) {
+        Each->ForeColor = RGB(255, 255, 128);
+        Each->Size(96.0, 12.0);
     }
+    LabelZonehour.Caption = "Standard Hour";
     CmdAnimStop.Caption = "Stop";
+    CmdAnimStop.Size(48.0, 22.0);
     LabelAnimSteps.Caption = "Animation Steps:";
     LabelWorking.Caption = "Working...... Please wait";
     LabelWorking.Visible = false;
     LabelWorking.ForeColor = RGB(255, 255, 0);
+    LabelWorking.TextAlignment = Alignment::Center;
+    LabelWorking.Size(180.0, 20.0);
     LabelMouseLong.Caption = "Long";
     LabelMouseLat.Caption = "Lat";
     LabelCity.Caption = "City";
+    for (Label* Each : {&LabelMouseLong, &LabelMouseLat, &LabelAnimSteps, &LabelAnimInfo}) Each->Width = 88.0;
+    LabelCity.Width = 150.0;
     Timer4.Interval = 100;
 }
 
