@@ -1,11 +1,15 @@
 #include "clock/clock.h"
 
+#include "astro/lunar.h"
+#include "astro/seasons.h"
 #include "astro/solar.h"
+#include "astro/sunrise.h"
 #include "clock/calendar.h"
 #include "frame/form_gt_main.h"
 #include "frame/state.h"
 #include "map/day_night.h"
 #include "map/stored_pictures.h"
+#include "panel/information_panel.h"
 #include "platform/host.h"
 
 namespace gloamtide {
@@ -49,6 +53,15 @@ void UpdateDateFields() {
     state.GreenwichSecond = state.WorkSecond;
 }
 
+void RecomputeAlmanac() {
+    SolarPosition();
+    LunarPosition();
+    SunriseSunset();
+    UpdateDateFields();
+    SeasonCountdown();
+    UpdateInformationPanel();
+}
+
 void ShowYearLimitMessage() {
     host->ShowMessage({"Gloamtide Year Limit Reached",
                        "The Gloamtide year has passed out of its range of -4000 to +4000. Please use the Configure or "
@@ -62,6 +75,7 @@ void FormGTMain_Timer1_Timer() {
     ReadSystemClock();
     state.CurrentJD = state.OffsetDays + state.SystemJD;
     UpdateDateFields();
+    UpdateInformationPanel();
     if (state.CurrentJD >= HighestJD) {
         state.CurrentJD = HighestJD;
         FormGTMain.Timer1.Enabled = false;
@@ -72,6 +86,7 @@ void FormGTMain_Timer1_Timer() {
 
 void FormGTMain_Timer2_Timer() {
     SolarPosition();
+    LunarPosition();
     RedrawMap();
 }
 

@@ -12,23 +12,24 @@
 namespace gloamtide {
 namespace {
 
-// What the class of the screen selects. Sizes and places in pixels.
+// What the class of the screen selects. Pixels, but for the font's points.
 struct ClassLayout {
-    std::int16_t MapWidth;
-    std::int16_t MapHeight;
+    std::int16_t MapWidth, MapHeight;
     double MapTop;
     double PanelLeft;
-    float CityMarkerRadius;
-    float MarkerRadiusX;
-    float MarkerRadiusY;
+    double ZonehourTop;
+    double LabelHeight;  // of the five labels on the map
+    const char* LabelFont;
+    double LabelFontSize;
+    float CityMarkerRadius, MarkerRadiusX, MarkerRadiusY;
 };
 
 constexpr std::array<ClassLayout, 4> Layouts = {{
-    // map          top   panel  city   marker
-    {580, 284, 20.0, 72.0, 0.45F, 5.0F, 3.5F},
-    {740, 380, 20.0, 120.0, 0.45F, 5.0F, 2.75F},
-    {956, 510, 20.0, 190.0, 1.0F, 6.0F, 2.5F},
-    {1182, 640, 32.0, 250.0, 1.0F, 7.0F, 2.25F},
+    // map      top   panel  hour   labels                       city   marker
+    {580, 284, 20.0, 72.0, 298.0, 10.0, "MS Serif", 6.0, 0.45F, 5.0F, 3.5F},
+    {740, 380, 20.0, 120.0, 392.0, 10.0, "MS Serif", 6.0, 0.45F, 5.0F, 2.75F},
+    {956, 510, 20.0, 190.0, 518.0, 12.0, "MS Serif", 7.0, 1.0F, 6.0F, 2.5F},
+    {1182, 640, 32.0, 250.0, 655.0, 16.0, "MS Sans Serif", 10.0, 1.0F, 7.0F, 2.25F},
 }};
 
 const ClassLayout& Current() { return Layouts[static_cast<std::size_t>(state.ScreenClass)]; }
@@ -62,20 +63,71 @@ void MeasureScreen() {
     FormGTMain.PictureGTContainer.Size(state.ScreenWidthPx, 1.4 * CurrentPanel().Height + state.MapHeight);
 }
 
-void LayOutMainWindow() {
+namespace {
+
+// Names that a user types can be long: the panel and its last column take all the room up to the screen's edge.
+void WidenPanel() {
+    PictureSurface& Panel = CurrentPanel();
+    const double DesignEdge = Panel.ScaleWidth();
+    Panel.Width = FormGTMain.PictureGTContainer.ScaleWidth() - Panel.Left;
+    for (Control* Each : Panel.Children) {
+        const bool Last = Each->Left + Each->Width > DesignEdge - TwipsPerPixel;
+        if (Last) Each->Width = Panel.ScaleWidth() - Each->Left;
+    }
+}
+
+void ApplyClass() {
     MainForm& F = FormGTMain;
-    F.PictureGTContainer.Move(0.0, 0.0);
-    for (PictureSurface& Panel : F.PictureGTData) Panel.Visible = false;
+    for (Label* Each : {&F.LabelEastOfIDLDate, &F.LabelWestOfIDLDate, &F.LabelZonehour, &F.LabelMouseLat,
+                        &F.LabelMouseLong, &F.LabelCity, &F.LabelAnimInfo, &F.LabelAnimSteps}) {
+        Each->FontName = Current().LabelFont;
+        Each->FontSize = Current().LabelFontSize;
+    }
+    for (Label* Each : {&F.LabelMouseLat, &F.LabelMouseLong, &F.LabelCity, &F.LabelAnimInfo, &F.LabelAnimSteps}) {
+        Each->Height = Current().LabelHeight;
+    }
+    if (state.ScreenClass == 3) {
+        for (Label* Each : {&F.LabelEastOfIDLDate, &F.LabelWestOfIDLDate, &F.LabelZonehour}) Each->Height = 16.0;
+        for (Label* Each : {&F.LabelMouseLat, &F.LabelMouseLong, &F.LabelAnimInfo}) Each->Width = 110.0;
+        F.LabelWestOfIDLDate.Top = 14.0;
+    }
     F.PictureGT.Top = Current().MapTop;
+    F.LabelZonehour.Top = Current().ZonehourTop;
     CurrentPanel().Left = Current().PanelLeft;
+    WidenPanel();
     state.CityMarkerRadius = Current().CityMarkerRadius;
     state.MarkerRadiusX = Current().MarkerRadiusX;
     state.MarkerRadiusY = Current().MarkerRadiusY;
     F.LabelWorking.Move((F.PictureGT.Width - F.LabelWorking.Width) / 2.0, F.PictureGT.Height / 2.0);
     CurrentPanel().Visible = true;
+}
 
-    F.PictureGT.Left = F.PictureGTContainer.ScaleWidth() - F.PictureGT.Width;
-    CurrentPanel().Top = F.PictureGT.Top + 1.01 * F.PictureGT.Height;
+// What follows from the sizes: the labels in the lower right corner of the map, each above the one before.
+void PlaceOnMap() {
+    MainForm& F = FormGTMain;
+    const double W = F.PictureGT.Width;
+    const double H = F.PictureGT.Height;
+    F.PictureGT.Left = F.PictureGTContainer.ScaleWidth() - W;
+    CurrentPanel().Top = F.PictureGT.Top + 1.01 * H;
+    F.CmdAnimStop.Move(W - 2.0 * F.CmdAnimStop.Width, H - 4.5 * F.CmdAnimStop.Height);
+    F.LabelAnimInfo.Move(W - F.LabelAnimInfo.Width, F.CmdAnimStop.Top - 1.3 * F.LabelAnimInfo.Height);
+    F.LabelAnimSteps.Move(W - F.LabelAnimInfo.Width, F.LabelAnimInfo.Top - F.LabelAnimSteps.Height);
+    F.LabelMouseLong.Move(W - F.LabelMouseLong.Width, H - 2.7 * F.LabelMouseLong.Height);
+    F.LabelMouseLat.Move(W - F.LabelMouseLat.Width, F.LabelMouseLong.Top - F.LabelMouseLat.Height);
+    F.LabelCity.Move(W - 1.1 * F.LabelCity.Width, F.LabelMouseLat.Top - 1.2 * F.LabelCity.Height);
+}
+
+}  // namespace
+
+void LayOutMainWindow() {
+    MainForm& F = FormGTMain;
+    F.PictureGTContainer.Move(0.0, 0.0);
+    F.LabelEastOfIDLDate.Move(0.0, 0.0);
+    F.LabelWestOfIDLDate.Move(0.0, 10.0);
+    F.LabelZonehour.Left = 0.0;
+    for (PictureSurface& Panel : F.PictureGTData) Panel.Visible = false;
+    ApplyClass();
+    PlaceOnMap();
 }
 
 void ScaleMapPictures() {

@@ -1,4 +1,4 @@
-// The windows without logic of their own: the splash.
+// The windows without logic of their own: the splash and About.
 #pragma once
 
 #include "frame/picture_surface.h"
@@ -12,9 +12,23 @@ struct SplashForm : Form {
     Label LabelSplash{*this, "LabelSplash"};
 };
 
+struct AboutForm : Form {
+    AboutForm();
+
+    Frame FrameAbout{*this, "FrameAbout"};
+    PictureSurface Image1{FrameAbout, "Image1"};
+    Label LabelAbout{FrameAbout, "LabelAbout"};
+    CommandButton CmdAboutOK{FrameAbout, "CmdAboutOK"};
+};
+
 inline SplashForm FormSplash;
+inline AboutForm FormAbout;
 
 // Puts picture and text of the splash in their places on this screen.
 void PlaceSplash();
+
+void FormAbout_Form_Load();
+void MenuHelpSubAbout_Click();
+void CmdAboutOK_Click();
 
 }  // namespace gloamtide

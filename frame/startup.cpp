@@ -2,18 +2,20 @@
 
 #include <filesystem>
 
-#include "astro/solar.h"
 #include "clock/clock.h"
 #include "frame/configuration.h"
 #include "frame/files.h"
 #include "frame/form_gt_main.h"
 #include "frame/form_pictures.h"
 #include "frame/layout.h"
+#include "frame/menus.h"
 #include "frame/small_dialogs.h"
 #include "frame/state.h"
 #include "map/day_night.h"
 #include "map/stored_pictures.h"
+#include "panel/information_panel.h"
 #include "places/cities.h"
+#include "places/zones.h"
 #include "platform/host.h"
 
 namespace gloamtide {
@@ -24,6 +26,11 @@ void ConnectHandlers() {
     FormPictures.OnLoad = FormPictures_Form_Load;
     FormGTMain.OnLoad = FormGTMain_Form_Load;
     FormGTMain.OnUnload = FormGTMain_Form_Unload;
+    FormGTMain.MenuFileSubQuit.Click = ExitProgram;
+    FormGTMain.MenuQuit.Click = ExitProgram;
+    FormAbout.OnLoad = FormAbout_Form_Load;
+    FormAbout.CmdAboutOK.Click = CmdAboutOK_Click;
+    ConnectMenus();
     FormGTMain.Timer1.Tick = FormGTMain_Timer1_Timer;
     FormGTMain.Timer2.Tick = FormGTMain_Timer2_Timer;
     FormGTMain.Timer4.Tick = FormGTMain_Timer4_Timer;
@@ -94,10 +101,7 @@ void FormGTMain_Form_Load() {
     // The configuration, and what the window shows of it.
     FindConfiguration();
     ShowPathInTitle(state.ConfigFilePath);
-    for (Label* Each : {&FormGTMain.LabelMouseLat, &FormGTMain.LabelMouseLong, &FormGTMain.LabelAnimInfo,
-                        &FormGTMain.LabelAnimSteps, &FormGTMain.LabelCity}) {
-        Each->ForeColor = QBColor(14);
-    }
+    ShowChecks();
     state.ExitInProgress = False;
 
     // The screen and its pictures.
@@ -112,14 +116,16 @@ void FormGTMain_Form_Load() {
     FormGTMain.CmdAnimStop.Visible = false;
 
     // The tables, and what is drawn once into the cached pictures.
+    BuildZoneTable();
     BuildCityTable();
+    LoadMonthNames();
+    LoadMoonNames();
     ScaleMapPictures();
 
     // The instant, all that follows from it, and the clock.
     ReadSystemClock();
     state.CurrentJD = state.SystemJD + state.OffsetDays;
-    SolarPosition();
-    UpdateDateFields();
+    RecomputeAlmanac();
     RedrawMap();
     StartTimers();
 }

@@ -85,6 +85,7 @@ void RedrawMap() {
     RotateMap();
     RotateDayAndNight();
     LayDayStrips();
+    FormGTMain.LabelZonehour.Visible = state.ShowTimezones == True;
     FormGTMain.PictureGT.SetPicture(FormPictures.PictureNightSplit.Picture);
 }
 

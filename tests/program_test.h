@@ -14,6 +14,7 @@
 #include "frame/small_dialogs.h"
 #include "frame/startup.h"
 #include "frame/state.h"
+#include "places/form_configure.h"
 #include "platform/headless/headless_host.h"
 
 namespace gloamtide {
@@ -30,6 +31,8 @@ protected:
         Renew(FormPictures);
         Renew(FormGTMain);
         Renew(FormSplash);
+        Renew(FormAbout);
+        Renew(FormConfigure);
         state = SharedState{};
         const std::string Pattern = (std::filesystem::temp_directory_path() / "gloamtide-test-XXXXXX").string();
         std::string Name = Pattern;

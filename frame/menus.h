@@ -1,0 +1,23 @@
+// The commands of the menu bar that have no dialog of their own.
+#pragma once
+
+namespace gloamtide {
+
+// Joins the items of the menus Show/Hide, Map and Help with their commands.
+void ConnectMenus();
+
+// Gives each Show/Hide item and map type item a check exactly where its flag says so, and the labels on the map their
+// colour.
+//   Reads:  the Show flags, MapType
+void ShowChecks();
+
+// The map type commands only prepare the rebuild; Timer4 does it a tenth of a second later, so that the user sees
+// LabelWorking meanwhile. The type in force is rebuilt again.
+//   Sets:  MapType
+void MenuMapSubNatural_Click();
+void MenuMapSubPolitical_Click();
+
+// Asks the host for the help file; where there is none nothing happens.
+void MenuHelpSubContents_Click();
+
+}  // namespace gloamtide
