@@ -17,6 +17,9 @@ int main(int Count, char** Arguments) {
     QApplication::setWindowIcon(Picture);
 
     gloamtide::QtHost Desktop;
+    const gloamtide::AssetBytes Help = gloamtide::HelpHtml();
+    Desktop.HelpTexts["GT401.hlp"] =
+        QString::fromUtf8(reinterpret_cast<const char*>(Help.data()), static_cast<qsizetype>(Help.size()));
     gloamtide::StartProgram();
     return Desktop.Run();
 }

@@ -26,6 +26,7 @@ ASSET(gloamtide_zone_mask, "zone_mask.bmp")
 ASSET(gloamtide_splash, "splash.bmp")
 ASSET(gloamtide_icon_bmp, "icon.bmp")
 ASSET(gloamtide_icon_png, "icon.png")
+ASSET(gloamtide_help, "help.html")
 
 #if defined(__linux__)
     .section .note.GNU-stack,"",%progbits

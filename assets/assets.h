@@ -15,5 +15,6 @@ AssetBytes ZoneMaskBmp();
 AssetBytes SplashBmp();
 AssetBytes IconBmp();
 AssetBytes IconPng();
+AssetBytes HelpHtml();
 
 }  // namespace gloamtide

@@ -11,6 +11,7 @@
 
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fonts.h"
+#include "platform/qt/help_window.h"
 
 namespace gloamtide {
 namespace {
@@ -97,6 +98,15 @@ std::optional<std::string> QtHost::ShowSaveDialog(const FileDialog& Dialog) {
     return AskSaveFile(Dialog, DialogParent());
 }
 
+void QtHost::ShowHelp(const std::string& FileName) {
+    const auto Found = HelpTexts.find(FileName);
+    if (Found == HelpTexts.end()) return;
+    if (Help == nullptr) Help = std::make_unique<HelpWindow>(Found->second);
+    Help->show();
+    Help->raise();
+    Help->activateWindow();
+}
+
 GlyphMask QtHost::RenderText(const Font& TheFont, const std::string& Text) { return RenderMask(TheFont, Text); }
 
 void QtHost::FormLoaded(Form& Which) { Windows[&Which] = new FormWindow(Which, *this, Gate); }
@@ -131,6 +141,7 @@ void QtHost::ProcessPendingEvents() {
 
 void QtHost::EndProcess() {
     Ended = true;
+    Help.reset();
     QCoreApplication::exit(0);
 }
 

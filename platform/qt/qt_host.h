@@ -3,6 +3,7 @@
 
 #include <QWidget>
 #include <map>
+#include <memory>
 
 #include "platform/host.h"
 #include "platform/qt/form_window.h"
@@ -15,6 +16,8 @@ class QtHost : public Host {
 public:
     QtHost();
     ~QtHost() override;
+
+    std::map<std::string, QString> HelpTexts;  // in HTML, by the file names that the program asks for
 
     int Run();  // the event loop, until the program ends the process; returns the exit code
 
@@ -32,7 +35,7 @@ public:
     MessageAnswer ShowMessage(const MessageBox& Message) override;
     std::optional<std::string> ShowOpenDialog(const FileDialog& Dialog) override;
     std::optional<std::string> ShowSaveDialog(const FileDialog& Dialog) override;
-    void ShowHelp(const std::string& /*FileName*/) override {}  // there is no help here
+    void ShowHelp(const std::string& FileName) override;
     GlyphMask RenderText(const Font& TheFont, const std::string& Text) override;
     void FormLoaded(Form& Which) override;
     void FormUnloaded(Form& Which) override;
@@ -45,6 +48,7 @@ private:
 
     TickGate Gate;
     std::map<const Form*, FormWindow*> Windows;
+    std::unique_ptr<QWidget> Help;  // once it was asked for
     bool Ended = false;
 };
 

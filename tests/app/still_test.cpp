@@ -55,6 +55,15 @@ TEST_F(Still, TheEquinoxIsLitInTheMiddleAndTheSameInstantGivesTheSamePicture) {
     EXPECT_EQ(A.pixelColor(1280 - 30, South), QColor(0, 10, 54));
 }
 
+TEST_F(Still, PrintsTheAlmanac) {
+    const Outcome Ran = Run({"--almanac", "--at", "2026-06-01T12:00:00Z", "--screen-width", "1024", "picture.png"});
+    const QStringList Lines = Ran.Output.split('\n', Qt::SkipEmptyParts);
+    EXPECT_EQ(Lines.size(), 18);
+    EXPECT_EQ(Lines.value(0).simplified(), "Gloamtide Local Date: June 1, 2026");
+    EXPECT_TRUE(Lines.value(1).contains("(Standard Time)"));
+    EXPECT_TRUE(Ran.Output.contains("Location Name:            Cleveland, Ohio\n"));
+}
+
 TEST_F(Still, ABrokenConfigurationIsToldAndTheDefaultsShown) {
     QFile(Path("broken.gtf")).open(QIODevice::WriteOnly);
     const Outcome Ran = Run({"--config", "broken.gtf", "picture.png"});
