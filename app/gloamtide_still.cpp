@@ -42,7 +42,7 @@ struct UsageError : std::runtime_error {
 QString ValueOf(const QCommandLineParser& Parser, const QString& Name) {
     if (Parser.optionNames().count(Name) > 1) throw UsageError("--" + Name + " stands more than once");
     if (!Parser.isSet(Name)) return {};
-    const QString Value = Parser.value(Name);
+    QString Value = Parser.value(Name);
     if (Value.isEmpty() && Name != "almanac") throw UsageError("--" + Name + " needs a value");
     return Value;
 }

@@ -230,7 +230,7 @@ public:
     ComboBox(Container& TheParent, std::string TheName, ComboStyle TheStyle, bool IsSorted = false)
         : Control(&TheParent, std::move(TheName)), Style(TheStyle), Sorted(IsSorted) {}
 
-    void AddItem(const std::string& Entry);
+    void AddItem(const std::string& NewText);
     void Clear();  // the text of a typed-in list stays
     int ListCount() const { return static_cast<int>(Entries.size()); }
     const std::string& List(int Position) const { return Entries.at(static_cast<std::size_t>(Position)).Text; }

@@ -66,7 +66,7 @@ MessageAnswer HeadlessHost::ShowMessage(const MessageBox& Message) {
 
 std::optional<std::string> HeadlessHost::NextFileName() {
     if (FileNames.empty()) return std::nullopt;
-    const std::optional<std::string> Name = FileNames.front();
+    std::optional<std::string> Name = FileNames.front();
     FileNames.pop_front();
     return Name;
 }

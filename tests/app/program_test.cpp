@@ -20,7 +20,7 @@ public:
         Manager.setProcessEnvironment(Environment());
         Manager.start("openbox", {"--sm-disable"});
         // Windows that come before the manager stands would never get the keyboard.
-        Ready = QTest::qWaitFor([&] { return !Do({"get_num_desktops"}).isEmpty(); }, 20000);
+        Ready = QTest::qWaitFor([&] { return Do({"get_num_desktops"}).toInt() > 0; }, 20000);
     }
     ~Display() {
         for (QProcess* Each : {&Manager, &Server}) {
@@ -83,7 +83,7 @@ TEST(Program, StartsTellsItsFallbackShowsTheMapAndClosesByItsCloseButton) {
     Program.setWorkingDirectory(Folder.path());
     Program.start(GLOAMTIDE_PROGRAM, QStringList());
 
-    ASSERT_FALSE(Screen.Await("File Not Found").isEmpty());
+    ASSERT_FALSE(Screen.Await("File Not Found").isEmpty()) << Program.readAllStandardError().toStdString() << Program.error() << " " << Program.state()<<" "<< Program.exitStatus()<<" "<<Program.exitCode();
     Screen.Do({"key", "Return"});
     const QString Main = Screen.Await("Gloamtide (Config File not found -- default configuration used)");
     ASSERT_FALSE(Main.isEmpty());

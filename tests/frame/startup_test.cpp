@@ -87,6 +87,8 @@ struct BadStart {
     const char* Configuration;  // null: none
 };
 
+void PrintTo(const BadStart& Start, std::ostream* Out) { *Out << Start.Name; }
+
 class BadStartup : public Startup, public testing::WithParamInterface<BadStart> {};
 
 TEST_P(BadStartup, FallsBack) {
