@@ -6,6 +6,7 @@
 
 #include "bench/program.h"
 #include "frame/form_pictures.h"
+#include "frame/state.h"
 #include "map/day_night.h"
 
 namespace gloamtide {
@@ -27,6 +28,11 @@ void FourCopies(benchmark::State& Runs) {
     }
 }
 
+void SetOverlays(Boolean Shown) {
+    state.ShowSun = state.ShowMoon = state.ShowAnalemma = Shown;
+    state.ShowCities = state.ShowTimezones = state.ShowMapGrid = Shown;
+}
+
 void Redraw(benchmark::State& Runs) {
     StartOnce();
     for (auto _ : Runs) {
@@ -35,7 +41,19 @@ void Redraw(benchmark::State& Runs) {
     }
 }
 
+// Sun, Moon, analemma, cities, time zones with the hour ruler, grid.
+void RedrawWithOverlays(benchmark::State& Runs) {
+    StartOnce();
+    SetOverlays(True);
+    for (auto _ : Runs) {
+        RedrawMap();
+        benchmark::ClobberMemory();
+    }
+    SetOverlays(False);
+}
+
 BENCHMARK(FourCopies)->Name("four memcpy of a map")->Unit(benchmark::kMicrosecond);
+BENCHMARK(RedrawWithOverlays)->Name("RedrawMap, all overlays")->Unit(benchmark::kMicrosecond);
 BENCHMARK(Redraw)->Name("RedrawMap, no overlay")->Unit(benchmark::kMicrosecond);
 
 }  // namespace

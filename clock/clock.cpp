@@ -8,7 +8,9 @@
 #include "frame/form_gt_main.h"
 #include "frame/state.h"
 #include "map/day_night.h"
+#include "map/graticule.h"
 #include "map/stored_pictures.h"
+#include "map/zone_lines.h"
 #include "panel/information_panel.h"
 #include "platform/host.h"
 
@@ -82,6 +84,7 @@ void FormGTMain_Timer1_Timer() {
         host->Beep();
         ShowYearLimitMessage();
     }
+    BlinkLocationMarker();
 }
 
 void FormGTMain_Timer2_Timer() {
@@ -93,6 +96,8 @@ void FormGTMain_Timer2_Timer() {
 void FormGTMain_Timer4_Timer() {
     ResetMapPictures();
     state.ConfigSaved = False;
+    DrawCityMarks();
+    DrawTimeZoneLines();
     RedrawMap();
     FormGTMain.LabelWorking.Visible = false;
     FormGTMain.Timer4.Enabled = false;

@@ -73,10 +73,10 @@ void PictureSurface::Stroke(PixelPoint From, PixelPoint To, Color LineColor) {
     const std::int64_t Edge = Steep ? Target.Height : Target.Width;
     const std::int64_t First = std::max<std::int64_t>(0, -WidestPen - Start);
     const std::int64_t Last = std::min(Length, Edge - 1 + WidestPen - Start);
+    const std::int64_t Divisor = 2 * std::max<std::int64_t>(Length, 1);
     for (std::int64_t Step = First; Step <= Last; ++Step) {
         if (DrawStyle == DrawStyles::Dotted && Step % DotPeriod != 0) continue;
         const std::int64_t Doubled = 2 * Step * Rise + Length;  // the nearest whole number, halves upward
-        const std::int64_t Divisor = 2 * std::max<std::int64_t>(Length, 1);
         const std::int64_t Other = OtherStart + Doubled / Divisor - (Doubled % Divisor < 0 ? 1 : 0);
         const int Along = static_cast<int>(Start + Step);
         const int Across = static_cast<int>(Other);

@@ -12,9 +12,13 @@
 #include "frame/small_dialogs.h"
 #include "frame/state.h"
 #include "map/day_night.h"
+#include "map/graticule.h"
+#include "map/mouse_probe.h"
 #include "map/stored_pictures.h"
+#include "map/zone_lines.h"
 #include "panel/information_panel.h"
 #include "places/cities.h"
+#include "places/form_configure.h"
 #include "places/zones.h"
 #include "platform/host.h"
 
@@ -30,6 +34,7 @@ void ConnectHandlers() {
     FormGTMain.MenuQuit.Click = ExitProgram;
     FormAbout.OnLoad = FormAbout_Form_Load;
     FormAbout.CmdAboutOK.Click = CmdAboutOK_Click;
+    FormGTMain.PictureGT.MouseMove = FormGTMain_PictureGT_MouseMove;
     ConnectMenus();
     FormGTMain.Timer1.Tick = FormGTMain_Timer1_Timer;
     FormGTMain.Timer2.Tick = FormGTMain_Timer2_Timer;
@@ -111,6 +116,7 @@ void FormGTMain_Form_Load() {
     FormGTMain.LabelMouseLat.Caption = "";
     FormGTMain.LabelMouseLong.Caption = "";
     FormGTMain.LabelCity.Caption = "";
+    FormConfigure.FrameSetGTDate.Visible = false;
     FormGTMain.LabelAnimInfo.Visible = false;
     FormGTMain.LabelAnimSteps.Visible = false;
     FormGTMain.CmdAnimStop.Visible = false;
@@ -121,6 +127,8 @@ void FormGTMain_Form_Load() {
     LoadMonthNames();
     LoadMoonNames();
     ScaleMapPictures();
+    DrawCityMarks();
+    DrawTimeZoneLines();
 
     // The instant, all that follows from it, and the clock.
     ReadSystemClock();

@@ -5,6 +5,10 @@
 #include "frame/form_pictures.h"
 #include "frame/numbers.h"
 #include "map/geometry.h"
+#include "map/graticule.h"
+#include "map/hour_ruler.h"
+#include "map/sun_overlays.h"
+#include "panel/moon_disc.h"
 
 namespace gloamtide {
 namespace {
@@ -64,6 +68,17 @@ void LayDayStrips() {
     }
 }
 
+// The order decides what covers what.
+void DrawOverlays() {
+    if (state.ShowSun == True) DrawSunMarker();
+    if (state.ShowMoon == True) DrawMoonDisc();
+    if (state.ShowAnalemma == True) DrawAnalemma();
+    if (state.ShowTimezones == True) DrawZoneHourRuler();
+    FormGTMain.LabelZonehour.Visible = state.ShowTimezones == True;
+    if (state.ShowMapGrid == True) DrawMapGrid();
+    DrawDateBand();
+}
+
 }  // namespace
 
 void BlitDayStrip() {
@@ -85,7 +100,7 @@ void RedrawMap() {
     RotateMap();
     RotateDayAndNight();
     LayDayStrips();
-    FormGTMain.LabelZonehour.Visible = state.ShowTimezones == True;
+    DrawOverlays();
     FormGTMain.PictureGT.SetPicture(FormPictures.PictureNightSplit.Picture);
 }
 
