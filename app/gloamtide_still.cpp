@@ -4,8 +4,8 @@
 #include <QCommandLineParser>
 #include <QDateTime>
 #include <QFileInfo>
+#include <QImage>
 #include <QLoggingCategory>
-#include <QPixmap>
 #include <QSaveFile>
 #include <QTextStream>
 #include <algorithm>
@@ -110,7 +110,10 @@ private:
     const Wanted& Asked;
 };
 
-bool WritePicture(const QPixmap& Picture, const QString& Path) {
+// A pixel of the picture is a pixel of the window, however dense the environment says screens are.
+bool WritePicture(QWidget& Window, const QString& Path) {
+    QImage Picture(Window.size(), QImage::Format_RGB32);
+    Window.render(&Picture);
     QSaveFile File(Path);
     return File.open(QIODevice::WriteOnly) && Picture.save(&File, "PNG") && File.commit();
 }
@@ -155,7 +158,7 @@ int main(int Count, char** Arguments) {
         Asked.Configuration.isEmpty() ? ConfigurationSource::Defaults : ConfigurationSource::NamedFile;
     state.ConfigFilePath = Asked.Configuration.toStdString();
     StartProgram();
-    if (!WritePicture(Desktop.WindowOf(FormGTMain)->grab(), Asked.Picture)) {
+    if (!WritePicture(*Desktop.WindowOf(FormGTMain), Asked.Picture)) {
         SayError("cannot write " + Asked.Picture);
         return 1;
     }

@@ -53,17 +53,22 @@ void PictureSurface::FillPixels(int FromX, int FromY, int ToX, int ToY, Color Fi
     Drawn(FromX, FromY, ToX, ToY);
 }
 
-void PictureSurface::Dot(int X, int Y, Color DotColor) {
-    const int Pen = std::clamp(DrawWidth, 1, WidestPen);
-    const int FromX = X - (Pen - 1) / 2;
-    const int FromY = Y - (Pen - 1) / 2;
-    FillPixels(FromX, FromY, FromX + Pen - 1, FromY + Pen - 1, DotColor);
+void PictureSurface::Dot(Bitmap& Target, int X, int Y, Color DotColor) {
+    if (DrawWidth > 1) {
+        const int Pen = std::min(DrawWidth, WidestPen);
+        const int FromX = X - (Pen - 1) / 2;
+        const int FromY = Y - (Pen - 1) / 2;
+        FillPixels(FromX, FromY, FromX + Pen - 1, FromY + Pen - 1, DotColor);
+    } else if (X >= 0 && Y >= 0 && X < Target.Width && Y < Target.Height) {
+        Target.Row(Y)[X] = DotColor;
+        Drawn(X, Y, X, Y);
+    }
 }
 
 // Goes along the longer axis, only where the bitmap is, and reckons the other coordinate afresh at each pixel: so a
 // line looks the same however much of it is clipped, and in whichever direction it is drawn.
 void PictureSurface::Stroke(PixelPoint From, PixelPoint To, Color LineColor) {
-    const Bitmap& Target = Canvas();
+    Bitmap& Target = Canvas();
     const bool Steep = std::abs(To.Y - From.Y) > std::abs(To.X - From.X);
     if (Steep ? From.Y > To.Y : From.X > To.X) std::swap(From, To);
     const std::int64_t Start = Steep ? From.Y : From.X;
@@ -80,7 +85,7 @@ void PictureSurface::Stroke(PixelPoint From, PixelPoint To, Color LineColor) {
         const std::int64_t Other = OtherStart + Doubled / Divisor - (Doubled % Divisor < 0 ? 1 : 0);
         const int Along = static_cast<int>(Start + Step);
         const int Across = static_cast<int>(Other);
-        Dot(Steep ? Across : Along, Steep ? Along : Across, LineColor);
+        Dot(Target, Steep ? Across : Along, Steep ? Along : Across, LineColor);
     }
 }
 
@@ -112,7 +117,7 @@ void PictureSurface::LineTo(double X, double Y, Color LineColor) { Line(CurrentX
 void PictureSurface::PSet(double X, double Y, Color DotColor) {
     CurrentX = X;
     CurrentY = Y;
-    if (const auto Place = PixelAt(X, Y)) Dot(Place->X, Place->Y, DotColor);
+    if (const auto Place = PixelAt(X, Y)) Dot(Canvas(), Place->X, Place->Y, DotColor);
 }
 
 void PictureSurface::PSetStep(double StepX, double StepY, Color DotColor) {

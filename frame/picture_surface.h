@@ -60,7 +60,7 @@ private:
     struct PixelPoint;
 
     std::optional<PixelPoint> PixelAt(double X, double Y) const;
-    void Dot(int X, int Y, Color DotColor);
+    void Dot(Bitmap& Target, int X, int Y, Color DotColor);
     void FillPixels(int FromX, int FromY, int ToX, int ToY, Color Filling);
     void Stroke(PixelPoint From, PixelPoint To, Color LineColor);
     void Ellipse(double X, double Y, double Radius, double Aspect, Color LineColor, bool Filled,

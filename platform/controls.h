@@ -254,6 +254,7 @@ private:
 class PictureBox : public Container {
 public:
     Bitmap Picture;                                   // the inner area, or empty
+    std::string Description;                          // what it shows, for a screen reader; set before it is loaded
     Property<int> BorderWidth{*this, 0};              // pixels
     std::function<void(float X, float Y)> MouseMove;  // the pointer, in user units
 

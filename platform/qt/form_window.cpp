@@ -11,6 +11,19 @@
 #include "platform/qt/qt_host.h"
 
 namespace gloamtide {
+namespace {
+
+CommandButton* FindButton(const Container& Holder, bool CommandButton::*Key) {
+    for (Control* Child : Holder.Children) {
+        if (auto* Button = dynamic_cast<CommandButton*>(Child); Button != nullptr && Button->*Key) return Button;
+        if (auto* Inner = dynamic_cast<Container*>(Child); Inner != nullptr) {
+            if (CommandButton* Found = FindButton(*Inner, Key); Found != nullptr) return Found;
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace
 
 class FormWindow::FormWatcher : public ElementObserver {
 public:
@@ -61,7 +74,10 @@ void FormWindow::Show() {
         Desktop.FillScreen(*this);
         raise();
         activateWindow();
+        // A dialog starts at its first field each time.
+        if (FindButton(Record, &CommandButton::Default) != nullptr) focusNextChild();
     } else {
+        if (QWidget* Last = focusWidget(); Last != nullptr) Last->clearFocus();
         hide();
     }
 }
@@ -90,20 +106,6 @@ void FormWindow::closeEvent(QCloseEvent* Event) {
     Event->ignore();
     Record.Close();
 }
-
-namespace {
-
-CommandButton* FindButton(const Container& Holder, bool CommandButton::*Key) {
-    for (Control* Child : Holder.Children) {
-        if (auto* Button = dynamic_cast<CommandButton*>(Child); Button != nullptr && Button->*Key) return Button;
-        if (auto* Inner = dynamic_cast<Container*>(Child); Inner != nullptr) {
-            if (CommandButton* Found = FindButton(*Inner, Key); Found != nullptr) return Found;
-        }
-    }
-    return nullptr;
-}
-
-}  // namespace
 
 // Only keys that the focused widget has no use for come here.
 void FormWindow::keyPressEvent(QKeyEvent* Event) {

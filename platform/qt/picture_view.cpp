@@ -33,7 +33,7 @@ void PictureView::paintEvent(QPaintEvent* Event) {
     QPainter Painter(this);
     const Bitmap& Picture = Record.Picture;
     const QRect Inner = InnerArea();
-    if (Record.BorderWidth > 0) qDrawShadePanel(&Painter, rect(), palette(), true, Record.BorderWidth);
+    if (Record.BorderWidth > 0) qDrawPlainRect(&Painter, rect(), Qt::darkGray, Record.BorderWidth);
     Painter.setClipRect(Inner & Event->rect());
     if (Picture.Width < Inner.width() || Picture.Height < Inner.height()) {
         Painter.fillRect(Inner, ToQColor(Record.BackColor));

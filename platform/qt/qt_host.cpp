@@ -76,7 +76,7 @@ DateTime QtHost::LocalTime() { return ToDateTime(QDateTime::currentDateTime()); 
 void QtHost::Beep() { QApplication::beep(); }
 
 QWidget* QtHost::DialogParent() const {
-    if (QWidget* Active = QApplication::activeWindow(); Active != nullptr) return Active;
+    if (QWidget* Active = QApplication::activeWindow(); Active != nullptr && Active->isVisible()) return Active;
     for (auto Each = LoadedForms.rbegin(); Each != LoadedForms.rend(); ++Each) {
         if ((*Each)->Visible) return WindowOf(**Each);
     }

@@ -1,7 +1,6 @@
 #include "platform/qt/widgets.h"
 
 #include <QCheckBox>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -9,6 +8,7 @@
 
 #include "platform/qt/combo_view.h"
 #include "platform/qt/control_watcher.h"
+#include "platform/qt/frame_view.h"
 #include "platform/qt/picture_view.h"
 
 namespace gloamtide {
@@ -117,7 +117,7 @@ void MakeComboBox(ComboBox& Record, QWidget& Parent, Watchers& Watching) {
 }
 
 void MakeFrame(Frame& Record, QWidget& Parent, Watchers& Watching) {
-    auto* Widget = new QGroupBox(&Parent);
+    auto* Widget = new FrameView(&Parent);
     Widget->setAutoFillBackground(true);
     Watch(Record, *Widget, Watching, [&Record, Widget] {
         const QString Caption = QString::fromStdString(Record.Caption);
@@ -150,7 +150,7 @@ private:
 
 void MakePictureBox(PictureBox& Record, QWidget& Parent, Watchers& Watching) {
     auto* Widget = new PictureView(Record, Parent);
-    SetAccessibleName(*Widget, QString::fromStdString(Record.Name));
+    SetAccessibleName(*Widget, QString::fromStdString(Record.Description));
     Watching.push_back(std::make_unique<PictureWatcher>(Record, *Widget));
     MakeWidgets(Record, *Widget, Watching);
 }
