@@ -4,8 +4,8 @@
 #include <QCommandLineParser>
 #include <QDateTime>
 #include <QFileInfo>
-#include <QImage>
 #include <QLoggingCategory>
+#include <QPixmap>
 #include <QSaveFile>
 #include <QTextStream>
 #include <algorithm>
@@ -110,10 +110,7 @@ private:
     const Wanted& Asked;
 };
 
-// A pixel of the picture is a pixel of the window, however dense the environment says screens are.
-bool WritePicture(QWidget& Window, const QString& Path) {
-    QImage Picture(Window.size(), QImage::Format_RGB32);
-    Window.render(&Picture);
+bool WritePicture(const QPixmap& Picture, const QString& Path) {
     QSaveFile File(Path);
     return File.open(QIODevice::WriteOnly) && Picture.save(&File, "PNG") && File.commit();
 }
@@ -144,6 +141,8 @@ void SayError(const QString& Text) { QTextStream(stderr) << "gloamtide-still: " 
 
 int main(int Count, char** Arguments) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The same picture everywhere, whatever the user's own screen is like.
+    for (const char* Density : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI"}) qunsetenv(Density);
     QLoggingCategory::setFilterRules("default.warning=false");  // what that platform cannot do nobody misses here
     const QApplication Application(Count, Arguments);
     Wanted Asked;
@@ -158,7 +157,7 @@ int main(int Count, char** Arguments) {
         Asked.Configuration.isEmpty() ? ConfigurationSource::Defaults : ConfigurationSource::NamedFile;
     state.ConfigFilePath = Asked.Configuration.toStdString();
     StartProgram();
-    if (!WritePicture(*Desktop.WindowOf(FormGTMain), Asked.Picture)) {
+    if (!WritePicture(Desktop.WindowOf(FormGTMain)->grab(), Asked.Picture)) {
         SayError("cannot write " + Asked.Picture);
         return 1;
     }

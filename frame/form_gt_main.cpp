@@ -29,7 +29,6 @@ MainForm::MainForm() : Form("FormGTMain", 0.0, 0.0) {
     LabelMouseLat.Caption = "Lat";
     LabelCity.Caption = "City";
     for (Label* Each : {&LabelMouseLong, &LabelMouseLat, &LabelAnimSteps, &LabelAnimInfo}) Each->Width = 88.0;
-    LabelCity.Width = 150.0;
     Timer4.Interval = 100;
 }
 

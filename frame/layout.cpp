@@ -19,6 +19,7 @@ struct ClassLayout {
     double PanelLeft;
     double ZonehourTop;
     double LabelHeight;  // of the five labels on the map
+    double CityWidth;    // room for the longest name
     const char* LabelFont;
     double LabelFontSize;
     float CityMarkerRadius, MarkerRadiusX, MarkerRadiusY;
@@ -26,10 +27,10 @@ struct ClassLayout {
 
 constexpr std::array<ClassLayout, 4> Layouts = {{
     // map      top   panel  hour   labels                       city   marker
-    {580, 284, 20.0, 72.0, 298.0, 10.0, "MS Serif", 6.0, 0.45F, 5.0F, 3.5F},
-    {740, 380, 20.0, 120.0, 392.0, 10.0, "MS Serif", 6.0, 0.45F, 5.0F, 2.75F},
-    {956, 510, 20.0, 190.0, 518.0, 12.0, "MS Serif", 7.0, 1.0F, 6.0F, 2.5F},
-    {1182, 640, 32.0, 250.0, 655.0, 16.0, "MS Sans Serif", 10.0, 1.0F, 7.0F, 2.25F},
+    {580, 284, 20.0, 72.0, 298.0, 10.0, 150.0, "MS Serif", 6.0, 0.45F, 5.0F, 3.5F},
+    {740, 380, 20.0, 120.0, 392.0, 10.0, 150.0, "MS Serif", 6.0, 0.45F, 5.0F, 2.75F},
+    {956, 510, 20.0, 190.0, 518.0, 12.0, 170.0, "MS Serif", 7.0, 1.0F, 6.0F, 2.5F},
+    {1182, 640, 32.0, 250.0, 655.0, 16.0, 230.0, "MS Sans Serif", 10.0, 1.0F, 7.0F, 2.25F},
 }};
 
 const ClassLayout& Current() { return Layouts[static_cast<std::size_t>(state.ScreenClass)]; }
@@ -91,6 +92,7 @@ void ApplyClass() {
         for (Label* Each : {&F.LabelMouseLat, &F.LabelMouseLong, &F.LabelAnimInfo}) Each->Width = 110.0;
         F.LabelWestOfIDLDate.Top = 14.0;
     }
+    F.LabelCity.Width = Current().CityWidth;
     F.PictureGT.Top = Current().MapTop;
     F.LabelZonehour.Top = Current().ZonehourTop;
     CurrentPanel().Left = Current().PanelLeft;

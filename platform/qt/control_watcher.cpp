@@ -63,10 +63,13 @@ void ControlWatcher::Place() {
     const int Border = Holder == nullptr ? 0 : Holder->BorderWidth.Get();
     QRect Box(qRound(Record.Left.Pixels()) + Border, qRound(Record.Top.Pixels()) + Border,
               qRound(Record.Width.Pixels()), qRound(Record.Height.Pixels()));
-    // A row can be lower than a line of its font. Where that shows on nothing but letters the label reaches over.
-    if (const auto* Text = dynamic_cast<const Label*>(&Record); Text != nullptr && !Text->Opaque) {
-        const int Missing = Widget.sizeHint().height() - Box.height();
-        if (Missing > 0 && !Text->WordWrap) Box.adjust(0, -(Missing / 2), 0, Missing - Missing / 2);
+    // A row can be lower than a line of its font, and a label at the right edge narrower than its text. Where that
+    // shows on nothing but letters the label reaches over, upward and downward, and to the left.
+    if (const auto* Text = dynamic_cast<const Label*>(&Record); Text != nullptr && !Text->Opaque && !Text->WordWrap) {
+        const QSize Missing = (Widget.sizeHint() - Box.size()).expandedTo({0, 0});
+        Box.adjust(0, -(Missing.height() / 2), 0, Missing.height() - Missing.height() / 2);
+        const int Edge = qRound(Record.Parent->InnerWidth()) + Border;
+        if (Box.x() + Box.width() >= Edge - Border) Box.setLeft(Box.left() - Missing.width());
     }
     Widget.setGeometry(Box);
 }
