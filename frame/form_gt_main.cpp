@@ -1,5 +1,7 @@
 #include "frame/form_gt_main.h"
 
+#include <string>
+
 namespace gloamtide {
 
 MainForm::MainForm() : Form("FormGTMain", 0.0, 0.0) {
@@ -11,6 +13,7 @@ MainForm::MainForm() : Form("FormGTMain", 0.0, 0.0) {
     PictureGT.BorderWidth = 2;
 
     DesignPanels();
+    DesignSundial();
 
     for (Label* Each : {&LabelEastOfIDLDate, &LabelWestOfIDLDate, &LabelZonehour}) {
         Each->ForeColor = RGB(255, 255, 128);
@@ -30,6 +33,36 @@ MainForm::MainForm() : Form("FormGTMain", 0.0, 0.0) {
     LabelCity.Caption = "City";
     for (Label* Each : {&LabelMouseLong, &LabelMouseLat, &LabelAnimSteps, &LabelAnimInfo}) Each->Width = 88.0;
     Timer4.Interval = 100;
+}
+
+void MainForm::DesignSundial() {
+    PictureSundial.BackColor = RGB(255, 224, 192);
+    PictureSundial.Visible = false;
+    for (int Hour = 0; Hour < 24; ++Hour) {
+        Label& Number = LabelHour[static_cast<std::size_t>(Hour)];
+        Number.Caption = std::to_string(Hour % 12 == 0 ? 12 : Hour % 12);
+        Number.FontName = "MS Serif";
+        Number.FontSize = 6.0;
+        Number.Visible = false;
+    }
+    LabelTwilightNight.Caption = "Twilight or Night";
+    LabelTwilightNight.ForeColor = RGB(255, 255, 255);
+    LabelTwilightNight.BackColor = RGB(0, 64, 0);
+    LabelTwilightNight.Opaque = true;
+    LabelTwilightNight.TextAlignment = Alignment::Center;
+    LabelTwilightNight.FontName = "MS Serif";
+    LabelTwilightNight.FontSize = 6.75;
+    LabelTwilightNight.Size(1275.0, 195.0);
+    LabelSundialMotto.Caption = "Carpe Diem";
+    LabelSundialMotto.TextAlignment = Alignment::Center;
+    LabelSundialMotto.WordWrap = true;
+    LabelSundialMotto.FontName = "MS Serif";
+    LabelSundialMotto.FontBold = true;
+    LabelSundialMotto.FontItalic = true;
+    CommandSDOptions.Caption = "Options";
+    CommandSDOptions.FontName = "MS Serif";
+    CommandSDOptions.FontSize = 6.75;
+    CommandSDOptions.Size(690.0, 255.0);
 }
 
 }  // namespace gloamtide

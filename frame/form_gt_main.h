@@ -64,6 +64,13 @@ struct MainForm : Form {
     Label LabelMouseLat{PictureGT, "LabelMouseLat"};
     Label LabelCity{PictureGT, "LabelCity"};
 
+    // The sundial in the map's corner.
+    PictureSurface PictureSundial{PictureGT, "PictureSundial"};
+    ControlArray<Label, 24> LabelHour{PictureSundial, "LabelHour"};
+    Label LabelTwilightNight{PictureSundial, "LabelTwilightNight"};
+    Label LabelSundialMotto{PictureSundial, "LabelSundialMotto"};
+    CommandButton CommandSDOptions{PictureSundial, "CommandSDOptions"};
+
     // The almanac: a panel for each ScreenClass, of which one is shown. Headings, and values beside them.
     ControlArray<PictureSurface, 4> PictureGTData{PictureGTContainer, "PictureGTData"};
     using PanelLabels = ControlArray<Label, 4>;
@@ -112,6 +119,7 @@ struct MainForm : Form {
 
 private:
     void DesignPanels();
+    void DesignSundial();
 };
 
 inline MainForm FormGTMain;

@@ -33,6 +33,21 @@ constexpr std::array<ClassLayout, 4> Layouts = {{
     {1182, 640, 32.0, 250.0, 655.0, 16.0, 230.0, "MS Sans Serif", 10.0, 1.0F, 7.0F, 2.25F},
 }};
 
+// The dial and what stands on it: the dial in pixels, the rest in twips, the motto's font in points.
+struct DialLayout {
+    double Width, Height;
+    double NightLeft, NightTop;
+    double MottoWidth, MottoLeft, MottoTop, MottoFontSize;
+    double OptionsTop;
+};
+
+constexpr std::array<DialLayout, 4> Dials = {{
+    {190, 142, 900, 1430, 2500, 180, 1500, 6, 1840},
+    {220, 165, 1100, 1760, 2900, 160, 1800, 7, 2200},
+    {240, 180, 1200, 1920, 3060, 240, 1920, 8, 2400},
+    {320, 240, 1850, 2700, 4000, 400, 2700, 10, 3300},
+}};
+
 const ClassLayout& Current() { return Layouts[static_cast<std::size_t>(state.ScreenClass)]; }
 PictureSurface& CurrentPanel() { return FormGTMain.PictureGTData[static_cast<std::size_t>(state.ScreenClass)]; }
 
@@ -104,6 +119,19 @@ void ApplyClass() {
     CurrentPanel().Visible = true;
 }
 
+// Before the dial has a scale of its own: it still counts in twips.
+void LayOutDial() {
+    MainForm& F = FormGTMain;
+    const DialLayout& Dial = Dials[static_cast<std::size_t>(state.ScreenClass)];
+    F.PictureSundial.Size(Dial.Width, Dial.Height);
+    F.PictureSundial.Move(0.0, F.PictureGT.Height - Dial.Height - 2.0);
+    F.LabelTwilightNight.Move(Dial.NightLeft, Dial.NightTop);
+    F.LabelSundialMotto.Move(Dial.MottoLeft, Dial.MottoTop);
+    F.LabelSundialMotto.Size(Dial.MottoWidth, Dial.OptionsTop - Dial.MottoTop);
+    F.LabelSundialMotto.FontSize = Dial.MottoFontSize;
+    F.CommandSDOptions.Move(0.0, Dial.OptionsTop);
+}
+
 // What follows from the sizes: the labels in the lower right corner of the map, each above the one before.
 void PlaceOnMap() {
     MainForm& F = FormGTMain;
@@ -129,6 +157,7 @@ void LayOutMainWindow() {
     F.LabelZonehour.Left = 0.0;
     for (PictureSurface& Panel : F.PictureGTData) Panel.Visible = false;
     ApplyClass();
+    LayOutDial();
     PlaceOnMap();
 }
 

@@ -21,6 +21,8 @@
 #include "places/form_configure.h"
 #include "places/zones.h"
 #include "platform/host.h"
+#include "sundial/form_sundial_options.h"
+#include "sundial/mottos.h"
 
 namespace gloamtide {
 namespace {
@@ -32,6 +34,10 @@ void ConnectHandlers() {
     FormGTMain.OnUnload = FormGTMain_Form_Unload;
     FormGTMain.MenuFileSubQuit.Click = ExitProgram;
     FormGTMain.MenuQuit.Click = ExitProgram;
+    FormGTMain.CommandSDOptions.Click = CommandSDOptions_Click;
+    FormSundialOptions.OnLoad = FormSundialOptions_Form_Load;
+    FormSundialOptions.CommandSDOptionsOK.Click = CommandSDOptionsOK_Click;
+    FormSundialOptions.CommandSDOptionsCancel.Click = CommandSDOptionsCancel_Click;
     FormAbout.OnLoad = FormAbout_Form_Load;
     FormAbout.CmdAboutOK.Click = CmdAboutOK_Click;
     FormGTMain.PictureGT.MouseMove = FormGTMain_PictureGT_MouseMove;
@@ -126,12 +132,14 @@ void FormGTMain_Form_Load() {
     BuildCityTable();
     LoadMonthNames();
     LoadMoonNames();
+    LoadMottos();
     ScaleMapPictures();
     DrawCityMarks();
     DrawTimeZoneLines();
 
     // The instant, all that follows from it, and the clock.
     ReadSystemClock();
+    ChooseMotto();
     state.CurrentJD = state.SystemJD + state.OffsetDays;
     RecomputeAlmanac();
     RedrawMap();

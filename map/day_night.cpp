@@ -9,6 +9,7 @@
 #include "map/hour_ruler.h"
 #include "map/sun_overlays.h"
 #include "panel/moon_disc.h"
+#include "sundial/dial.h"
 
 namespace gloamtide {
 namespace {
@@ -77,6 +78,8 @@ void DrawOverlays() {
     FormGTMain.LabelZonehour.Visible = state.ShowTimezones == True;
     if (state.ShowMapGrid == True) DrawMapGrid();
     DrawDateBand();
+    if (state.ShowSundial == True) DrawSundial();
+    FormGTMain.PictureSundial.Visible = state.ShowSundial == True;
 }
 
 }  // namespace

@@ -16,6 +16,7 @@
 #include "frame/state.h"
 #include "places/form_configure.h"
 #include "platform/headless/headless_host.h"
+#include "sundial/form_sundial_options.h"
 
 namespace gloamtide {
 
@@ -33,6 +34,7 @@ protected:
         Renew(FormSplash);
         Renew(FormAbout);
         Renew(FormConfigure);
+        Renew(FormSundialOptions);
         state = SharedState{};
         const std::string Pattern = (std::filesystem::temp_directory_path() / "gloamtide-test-XXXXXX").string();
         std::string Name = Pattern;
