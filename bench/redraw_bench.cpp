@@ -31,6 +31,7 @@ void FourCopies(benchmark::State& Runs) {
 void SetOverlays(Boolean Shown) {
     state.ShowSun = state.ShowMoon = state.ShowAnalemma = Shown;
     state.ShowCities = state.ShowTimezones = state.ShowMapGrid = Shown;
+    state.ShowSundial = Shown;
 }
 
 void Redraw(benchmark::State& Runs) {
@@ -41,7 +42,7 @@ void Redraw(benchmark::State& Runs) {
     }
 }
 
-// Sun, Moon, analemma, cities, time zones with the hour ruler, grid.
+// Sun, Moon, analemma, cities, time zones with the hour ruler, grid, sundial.
 void RedrawWithOverlays(benchmark::State& Runs) {
     StartOnce();
     SetOverlays(True);

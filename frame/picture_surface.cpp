@@ -78,11 +78,21 @@ void PictureSurface::Stroke(PixelPoint From, PixelPoint To, Color LineColor) {
     const std::int64_t Edge = Steep ? Target.Height : Target.Width;
     const std::int64_t First = std::max<std::int64_t>(0, -WidestPen - Start);
     const std::int64_t Last = std::min(Length, Edge - 1 + WidestPen - Start);
+    // Other is the nearest whole number, halves upward, to OtherStart + Step * Rise / Length; Rest what is left over.
     const std::int64_t Divisor = 2 * std::max<std::int64_t>(Length, 1);
+    const std::int64_t Doubled = 2 * First * Rise + Length;
+    std::int64_t Other = OtherStart + Doubled / Divisor - (Doubled % Divisor < 0 ? 1 : 0);
+    std::int64_t Rest = Doubled - (Other - OtherStart) * Divisor - 2 * Rise;
     for (std::int64_t Step = First; Step <= Last; ++Step) {
+        Rest += 2 * Rise;
+        if (Rest >= Divisor) {
+            Rest -= Divisor;
+            ++Other;
+        } else if (Rest < 0) {
+            Rest += Divisor;
+            --Other;
+        }
         if (DrawStyle == DrawStyles::Dotted && Step % DotPeriod != 0) continue;
-        const std::int64_t Doubled = 2 * Step * Rise + Length;  // the nearest whole number, halves upward
-        const std::int64_t Other = OtherStart + Doubled / Divisor - (Doubled % Divisor < 0 ? 1 : 0);
         const int Along = static_cast<int>(Start + Step);
         const int Across = static_cast<int>(Other);
         Dot(Target, Steep ? Across : Along, Steep ? Along : Across, LineColor);
