@@ -15,7 +15,6 @@ ComboView::ComboView(ComboBox& TheRecord, QWidget& Parent) : QComboBox(&Parent),
     if (Record.Style != ComboStyle::DropDownCombo) return;
 
     setEditable(true);
-    setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr);
     // A typed text stays a typed text, even if there is an entry like it: only picking picks.
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);

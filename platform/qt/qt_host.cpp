@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDeadlineTimer>
-#include <QIcon>
+#include <QLineEdit>
 #include <QProxyStyle>
 #include <QScreen>
 #include <QWindow>
@@ -124,7 +124,9 @@ void QtHost::SetFocus(Control& Which) {
     const auto Found = Windows.find(static_cast<const Form*>(Root));
     if (Found == Windows.end()) return;
     auto* Widget = Found->second->findChild<QWidget*>(QString::fromStdString(Which.Name));
-    if (Widget != nullptr) Widget->setFocus(Qt::TabFocusReason);  // with its text selected, to be typed anew
+    if (Widget == nullptr) return;
+    Widget->setFocus();
+    if (auto* Field = qobject_cast<QLineEdit*>(Widget); Field != nullptr) Field->selectAll();  // to be typed anew
 }
 
 // No tick and no key press comes in between, for an event of the program is under way.

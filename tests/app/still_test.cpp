@@ -18,8 +18,10 @@ struct Outcome {
 
 class Still : public testing::Test {
 protected:
-    Outcome Run(const QStringList& Arguments) const {
+    Outcome Run(const QStringList& Arguments,
+                const QProcessEnvironment& Environment = QProcessEnvironment::systemEnvironment()) const {
         QProcess Process;
+        Process.setProcessEnvironment(Environment);
         Process.setWorkingDirectory(Folder.path());
         Process.start(GLOAMTIDE_STILL, Arguments);
         Process.waitForFinished(60000);
@@ -53,6 +55,16 @@ TEST_F(Still, TheEquinoxIsLitInTheMiddleAndTheSameInstantGivesTheSamePicture) {
     const int South = A.height() / 2;  // the southern Atlantic at noon, the Pacific at midnight
     EXPECT_EQ(A.pixelColor(1280 - 4 - 591 - 60, South), QColor(0, 119, 225));
     EXPECT_EQ(A.pixelColor(1280 - 30, South), QColor(0, 10, 54));
+}
+
+TEST_F(Still, TheDensityOfTheUsersOwnScreenDoesNotMatter) {
+    QProcessEnvironment Dense = QProcessEnvironment::systemEnvironment();
+    Dense.insert("QT_SCALE_FACTOR", "2");
+    Dense.insert("QT_FONT_DPI", "192");
+    Run({"--at", "2026-03-20T12:00:00Z", "--screen-width", "800", "a.png"});
+    Run({"--at", "2026-03-20T12:00:00Z", "--screen-width", "800", "b.png"}, Dense);
+    EXPECT_EQ(QImage(Path("b.png")).size(), QSize(800, 600));
+    EXPECT_EQ(QImage(Path("a.png")), QImage(Path("b.png")));
 }
 
 TEST_F(Still, PrintsTheAlmanac) {
