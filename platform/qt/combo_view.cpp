@@ -23,6 +23,7 @@ ComboView::ComboView(ComboBox& TheRecord, QWidget& Parent) : QComboBox(&Parent),
 }
 
 void ComboView::ShowRecord() {
+    if (!isVisible()) return;  // lists are filled entry by entry: what nobody sees waits for showEvent
     const QSignalBlocker Blocker(this);
     ShowEntries();
     ShowSelection();
@@ -47,6 +48,11 @@ void ComboView::ShowSelection() {
     if (lineEdit() == nullptr || lineEdit()->text() == Text) return;
     lineEdit()->setText(Text);
     lineEdit()->setCursorPosition(Cursor);
+}
+
+void ComboView::showEvent(QShowEvent* Event) {
+    ShowRecord();
+    QComboBox::showEvent(Event);
 }
 
 void ComboView::showPopup() {

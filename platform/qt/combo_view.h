@@ -14,6 +14,7 @@ public:
 
     void ShowRecord();  // entries, the selected one, the text
 
+    void showEvent(QShowEvent* Event) override;
     void showPopup() override;
 
 private:

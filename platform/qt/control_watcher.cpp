@@ -66,10 +66,14 @@ void ControlWatcher::Place() {
     // A row can be lower than a line of its font, and a label at the right edge narrower than its text. Where that
     // shows on nothing but letters the label reaches over, upward and downward, and to the left.
     if (const auto* Text = dynamic_cast<const Label*>(&Record); Text != nullptr && !Text->Opaque && !Text->WordWrap) {
-        const QSize Missing = (Widget.sizeHint() - Box.size()).expandedTo({0, 0});
-        Box.adjust(0, -(Missing.height() / 2), 0, Missing.height() - Missing.height() / 2);
+        const QSize Needed = Widget.sizeHint().expandedTo(Box.size());
+        const int Missing = Needed.height() - Box.height();
+        Box.adjust(0, -(Missing / 2), 0, Missing - Missing / 2);
         const int Edge = qRound(Record.Parent->InnerWidth()) + Border;
-        if (Box.x() + Box.width() >= Edge - Border) Box.setLeft(Box.left() - Missing.width());
+        if (Holder != nullptr && Box.x() + Box.width() >= Edge - Border) {
+            Box.setWidth(Needed.width());
+            Box.moveRight(Edge - 1);
+        }
     }
     Widget.setGeometry(Box);
 }

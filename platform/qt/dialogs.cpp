@@ -51,6 +51,12 @@ std::optional<std::string> AskSaveFile(const FileDialog& Dialog, QWidget* Parent
     QFileDialog Box(Parent, "Save As");
     Box.setAcceptMode(QFileDialog::AcceptSave);
     Box.setFileMode(QFileDialog::AnyFile);
+    // A name typed without an ending gets that of the chosen filter, so that the Open dialog shows the file again.
+    const auto TakeEnding = [&Box](const QString& Filter) {
+        Box.setDefaultSuffix(Filter.section("(*.", 1).section(')', 0, 0));
+    };
+    TakeEnding(QtFilter(Dialog.Filter).section(";;", 0, 0));
+    QObject::connect(&Box, &QFileDialog::filterSelected, &Box, TakeEnding);
     return Chosen(Box, Dialog);
 }
 

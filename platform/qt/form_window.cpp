@@ -9,6 +9,7 @@
 #include "platform/qt/control_watcher.h"
 #include "platform/qt/menus.h"
 #include "platform/qt/qt_host.h"
+#include "platform/qt/widgets.h"
 
 namespace gloamtide {
 namespace {
@@ -75,7 +76,9 @@ void FormWindow::Show() {
         raise();
         activateWindow();
         // A dialog starts at its first field each time.
-        if (FindButton(Record, &CommandButton::Default) != nullptr) focusNextChild();
+        if (FindButton(Record, &CommandButton::Default) == nullptr) return;
+        focusNextChild();
+        if (QWidget* First = focusWidget(); First != nullptr) SelectText(*First);
     } else {
         if (QWidget* Last = focusWidget(); Last != nullptr) Last->clearFocus();
         hide();

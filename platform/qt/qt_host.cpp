@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDeadlineTimer>
-#include <QLineEdit>
 #include <QProxyStyle>
 #include <QScreen>
 #include <QWindow>
@@ -12,6 +11,7 @@
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/help_window.h"
+#include "platform/qt/widgets.h"
 
 namespace gloamtide {
 namespace {
@@ -126,7 +126,7 @@ void QtHost::SetFocus(Control& Which) {
     auto* Widget = Found->second->findChild<QWidget*>(QString::fromStdString(Which.Name));
     if (Widget == nullptr) return;
     Widget->setFocus();
-    if (auto* Field = qobject_cast<QLineEdit*>(Widget); Field != nullptr) Field->selectAll();  // to be typed anew
+    SelectText(*Widget);
 }
 
 // No tick and no key press comes in between, for an event of the program is under way.

@@ -31,6 +31,12 @@ QString NameByHeading(const Control& Field) {
     return Heading;
 }
 
+// The same for a group: the label that it begins with, or the one before it.
+QString NameOfGroup(const Frame& Group) {
+    const auto* Title = Group.Children.empty() ? nullptr : dynamic_cast<const Label*>(Group.Children.front());
+    return Title == nullptr ? NameByHeading(Group) : QString::fromStdString(Title->Caption);
+}
+
 void Watch(Control& Record, QWidget& Widget, Watchers& Watching, std::function<void()> ShowKind) {
     Watching.push_back(std::make_unique<ControlWatcher>(Record, Widget, std::move(ShowKind)));
 }
@@ -122,7 +128,7 @@ void MakeFrame(Frame& Record, QWidget& Parent, Watchers& Watching) {
     Watch(Record, *Widget, Watching, [&Record, Widget] {
         const QString Caption = QString::fromStdString(Record.Caption);
         if (Widget->title() != Caption) Widget->setTitle(Caption);
-        SetAccessibleName(*Widget, Caption.isEmpty() ? NameByHeading(Record) : Spoken(Caption));
+        SetAccessibleName(*Widget, Caption.isEmpty() ? NameOfGroup(Record) : Spoken(Caption));
         SetRole(*Widget, QPalette::WindowText, Record.ForeColor);
         SetRole(*Widget, QPalette::Window, Record.BackColor);
     });
@@ -164,6 +170,12 @@ bool MakeIf(Control& Record, void (*Make)(Kind&, QWidget&, Watchers&), QWidget& 
 }
 
 }  // namespace
+
+void SelectText(QWidget& Widget) {
+    auto* Field = qobject_cast<QLineEdit*>(&Widget);
+    if (const auto* List = qobject_cast<QComboBox*>(&Widget); List != nullptr) Field = List->lineEdit();
+    if (Field != nullptr) Field->selectAll();
+}
 
 void MakeWidgets(const Container& Holder, QWidget& Parent, Watchers& Watching) {
     for (Control* Record : Holder.Children) {

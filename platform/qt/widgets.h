@@ -14,4 +14,7 @@ using Watchers = std::vector<std::unique_ptr<ElementObserver>>;
 // Makes a widget for each control in Holder, and for all that they hold, on Parent; each gets a watcher.
 void MakeWidgets(const Container& Holder, QWidget& Parent, Watchers& Watching);
 
+// Selects the text of a widget that one types into, so that typing replaces it.
+void SelectText(QWidget& Widget);
+
 }  // namespace gloamtide

@@ -84,6 +84,17 @@ TEST_F(Dialogs, SaveOffersTheNameAndAsksBeforeItOverwrites) {
     EXPECT_TRUE(Asked);
 }
 
+TEST_F(Dialogs, SaveGivesANameWithoutAnEndingThatOfTheFilter) {
+    WhenOpen<QFileDialog>([](QFileDialog& Box) { static_cast<QDialog&>(Box).accept(); });
+    EXPECT_EQ(Desktop.ShowSaveDialog(Asking("home")), Path("home.gtf"));
+    WhenOpen<QFileDialog>([](QFileDialog& Box) {
+        Box.selectNameFilter("All Files (*)");
+        emit Box.filterSelected("All Files (*)");  // as when the user picks it
+        static_cast<QDialog&>(Box).accept();
+    });
+    EXPECT_EQ(Desktop.ShowSaveDialog(Asking("home")), Path("home"));
+}
+
 TEST_F(Dialogs, AFilterOfAllFilesMeansThoseWithoutADotToo) {
     EXPECT_EQ(QtFilter("Text (*.txt)|*.txt;*.text|All|*.*"), "Text (*.txt *.text);;All (*)");
     EXPECT_EQ(QtFilter(""), "");
