@@ -1,6 +1,8 @@
 #include "frame/code_page.h"
 
+#include <algorithm>
 #include <array>
+#include <string_view>
 
 namespace gloamtide {
 namespace {
@@ -12,7 +14,50 @@ constexpr std::array<char32_t, 32> Upper = {
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
 };
 
+// The first character of a text in UTF-8, and how many bytes it takes. A byte that begins none stands for itself.
+struct Character {
+    char32_t Code;
+    std::size_t Length;
+    bool Valid;
+};
+
+Character FirstCharacter(std::string_view Text) {
+    constexpr std::array<char32_t, 5> Smallest = {0, 0, 0x80, 0x800, 0x10000};  // by length
+    const auto Lead = static_cast<unsigned char>(Text.front());
+    if (Lead < 0x80) return {Lead, 1, true};
+    const Character Invalid = {Lead, 1, false};
+    const std::size_t Length = Lead >= 0xF0 ? 4 : Lead >= 0xE0 ? 3 : 2;
+    if (Lead < 0xC0 || Lead > 0xF4 || Text.size() < Length) return Invalid;
+    char32_t Code = Lead & (0x7FU >> Length);
+    for (const char Each : Text.substr(1, Length - 1)) {
+        const auto Byte = static_cast<unsigned char>(Each);
+        if ((Byte & 0xC0U) != 0x80U) return Invalid;
+        Code = Code << 6U | (Byte & 0x3FU);
+    }
+    const bool Surrogate = Code >= 0xD800 && Code < 0xE000;
+    if (Code < Smallest[Length] || Code > 0x10FFFF || Surrogate) return Invalid;
+    return {Code, Length, true};
+}
+
+char ByteOf(const Character& Each) {
+    const auto* const Found = std::find(Upper.begin(), Upper.end(), Each.Code);
+    const std::ptrdiff_t Place = Found - Upper.begin();
+    if (Each.Valid && Found != Upper.end()) return static_cast<char>(0x80 + Place);
+    const bool IsItsOwnNumber = Each.Code < 0x80 || (Each.Code > 0x9F && Each.Code < 0x100);
+    return Each.Valid && IsItsOwnNumber ? static_cast<char>(Each.Code) : '?';
+}
+
 }  // namespace
+
+std::string ToCodePage(const std::string& Text) {
+    std::string Bytes;
+    for (std::string_view Rest = Text; !Rest.empty();) {
+        const Character First = FirstCharacter(Rest);
+        Bytes += ByteOf(First);
+        Rest.remove_prefix(First.Length);
+    }
+    return Bytes;
+}
 
 std::string FromCodePage(const std::string& Bytes) {
     std::string Text;

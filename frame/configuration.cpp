@@ -2,21 +2,27 @@
 
 #include <bit>
 #include <cstdint>
+#include <filesystem>
 #include <string>
+#include <utility>
 
 #include "frame/code_page.h"
 #include "frame/files.h"
 #include "frame/form_gt_main.h"
+#include "frame/messages.h"
 #include "frame/state.h"
 
 namespace gloamtide {
 namespace {
 
+constexpr const char* StartupFile = "Startup.dat";
 constexpr std::size_t RecordLength = 48;
 constexpr std::size_t RecordCount = 21;
 constexpr std::size_t LongestName = RecordLength - 2;  // bytes, beside the length itself
 
-// Reads the records of a file one after the other.
+std::string StoredName(const std::string& Name) { return ToCodePage(Name).substr(0, LongestName); }
+
+// Takes the fields of the state, in the order of the records, from the bytes of a file.
 class RecordReader {
 public:
     explicit RecordReader(const std::string& Path)
@@ -24,16 +30,16 @@ public:
         Bytes.resize(RecordLength * RecordCount);
     }
 
-    double Double() { return std::bit_cast<double>(Number(8)); }
-    float Single() { return std::bit_cast<float>(static_cast<std::uint32_t>(Number(4))); }
-    std::int16_t Int16() { return static_cast<std::int16_t>(Number(2)); }
+    void operator()(double& Field) { Field = std::bit_cast<double>(Number(8)); }
+    void operator()(float& Field) { Field = std::bit_cast<float>(static_cast<std::uint32_t>(Number(4))); }
+    void operator()(std::int16_t& Field) { Field = static_cast<std::int16_t>(Number(2)); }
 
-    std::string Text() {
+    void operator()(std::string& Field) {
         const std::size_t Start = Next + 2;
         const std::size_t TextLength = Number(2);
         if (TextLength > LongestName || Start + TextLength > Length)
-            throw FileFailure("bad location name: " + FilePath);
-        return FromCodePage(Bytes.substr(Start, TextLength));
+            throw FileFailure(FilePath + ": bad location name");
+        Field = FromCodePage(Bytes.substr(Start, TextLength));
     }
 
 private:
@@ -50,6 +56,78 @@ private:
     std::size_t Length;  // as stored
     std::size_t Next = 0;
 };
+
+// Puts the fields of the state into the bytes of a file, from one record on.
+class RecordWriter {
+public:
+    std::string Bytes;
+
+    explicit RecordWriter(std::string OldBytes = "", std::size_t FirstRecord = 1)
+        : Bytes(std::move(OldBytes)), Next((FirstRecord - 1) * RecordLength) {}
+
+    void operator()(double Field) { Number(std::bit_cast<std::uint64_t>(Field), 8); }
+    void operator()(float Field) { Number(std::bit_cast<std::uint32_t>(Field), 4); }
+    void operator()(std::int16_t Field) { Number(static_cast<std::uint16_t>(Field), 2); }
+
+    void operator()(const std::string& Field) {
+        const std::string Name = StoredName(Field);
+        const std::size_t Start = Next + 2;
+        Number(Name.size(), 2);
+        Bytes.replace(Start, Name.size(), Name);
+    }
+
+private:
+    // The first Size bytes of the next record; its others stay, or are 0 where the file grows.
+    void Number(std::uint64_t Value, std::size_t Size) {
+        if (Bytes.size() < Next + RecordLength) Bytes.resize(Next + RecordLength);
+        for (std::size_t Byte = 0; Byte < Size; ++Byte) Bytes[Next + Byte] = static_cast<char>(Value >> 8U * Byte);
+        Next += RecordLength;
+    }
+
+    std::size_t Next;
+};
+
+constexpr std::size_t FirstAnimationRecord = 11;
+
+template <class Records>
+void AnimationRecords(Records& Next) {
+    Next(state.AnimYears);
+    Next(state.AnimDays);
+    Next(state.AnimHours);
+    Next(state.AnimForward);
+}
+
+template <class Records>
+void AllRecords(Records& Next) {
+    Next(state.OffsetDays);
+    Next(state.ZoneHours);
+    Next(state.DaylightHours);
+    Next(state.MapType);
+    Next(state.ShowMapGrid);
+    Next(state.ShowAnalemma);
+    Next(state.ShowCities);
+    Next(state.ShowTimezones);
+    Next(state.ShowSun);
+    Next(state.ShowMoon);
+    AnimationRecords(Next);
+    Next(state.LocationName);
+    Next(state.LocationLat);
+    Next(state.LocationLong);
+    Next(state.ShowSundial);
+    Next(state.SundialLongitudeCorrection);
+    Next(state.SundialEOTCorrection);
+    Next(state.SundialDSTCorrection);
+}
+
+void TellStoredName() {
+    const std::string Name = FromCodePage(StoredName(state.LocationName));
+    if (Name == state.LocationName) return;
+    ShowAfterTwoBeeps({"Location Name Changed",
+                       "A configuration file holds a location name of at most 46 characters, each of the Western "
+                       "character set (Windows-1252). The name was saved as \"" +
+                           Name + "\".",
+                       MessageIcon::Exclamation});
+}
 
 }  // namespace
 
@@ -74,38 +152,43 @@ void SetDefaultConfiguration() {
 
 void LoadConfiguration() {
     RecordReader File(state.ConfigOpenPath);
-    state.OffsetDays = File.Double();
-    state.ZoneHours = File.Single();
-    state.DaylightHours = File.Int16();
-    state.MapType = File.Int16();
-    state.ShowMapGrid = File.Int16();
-    state.ShowAnalemma = File.Int16();
-    state.ShowCities = File.Int16();
-    state.ShowTimezones = File.Int16();
-    state.ShowSun = File.Int16();
-    state.ShowMoon = File.Int16();
-    state.AnimYears = File.Single();
-    state.AnimDays = File.Single();
-    state.AnimHours = File.Single();
-    state.AnimForward = File.Int16();
-    state.LocationName = File.Text();
-    state.LocationLat = File.Double();
-    state.LocationLong = File.Single();
-    state.ShowSundial = File.Int16();
-    state.SundialLongitudeCorrection = File.Int16();
-    state.SundialEOTCorrection = File.Int16();
-    state.SundialDSTCorrection = File.Int16();
+    AllRecords(File);
     ShowPathInTitle(state.ConfigOpenPath);
+}
+
+void SaveConfiguration() {
+    RecordWriter File;
+    AllRecords(File);
+    WriteFile(state.ConfigFilePath, File.Bytes);
+    ShowPathInTitle(state.ConfigFilePath);
+    state.ConfigSaved = True;
+    TellStoredName();
+}
+
+void SaveAnimationOptions() {
+    constexpr std::size_t LargestFile = 1U << 20U;  // bytes; anything larger is something else
+    const std::string& Path = state.ConfigFilePath;
+    std::error_code Ignored;  // what cannot be looked at cannot be written either
+    std::string OldBytes = std::filesystem::exists(Path, Ignored) ? ReadFile(Path, LargestFile + 1) : "";
+    if (OldBytes.size() > LargestFile) throw FileFailure(Path + ": no configuration file");
+    RecordWriter File(std::move(OldBytes), FirstAnimationRecord);
+    AnimationRecords(File);
+    WriteFile(Path, File.Bytes);
 }
 
 void ReadStartupFile() {
     constexpr std::size_t LongestLine = 32767;  // bytes
-    const std::string Text = ReadFile("Startup.dat", LongestLine);
-    if (Text.empty()) throw FileFailure("empty: Startup.dat");
+    const std::string Text = ReadFile(StartupFile, LongestLine);
+    if (Text.empty()) throw FileFailure(std::string(StartupFile) + ": empty");
     const bool Quoted = Text.front() == '"';
     const std::size_t Start = Quoted ? 1 : 0;
     const std::size_t End = Text.find_first_of(Quoted ? "\"" : ",\r\n", Start);
     state.ConfigFilePath = Text.substr(Start, End == std::string::npos ? End : End - Start);
+}
+
+void WriteStartupFile() {
+    WriteFile((std::filesystem::path(state.AppDirectory) / StartupFile).string(),
+              '"' + state.ConfigFilePath + "\"\r\n");
 }
 
 void ShowPathInTitle(const std::string& Path) { FormGTMain.Caption = "Gloamtide (" + Path + ")"; }

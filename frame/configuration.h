@@ -5,6 +5,9 @@
 
 namespace gloamtide {
 
+// For the file dialogs.
+constexpr const char* ConfigurationFilter = "Gloamtide Files (*.gtf)|*.gtf|All Files (*.*)|*.*";
+
 // Every field that the file holds gets its default, and ConfigFilePath the sentence that says there is no file.
 //   Sets:  the configuration's fields, ConfigFilePath, ConfigSaved (False)
 void SetDefaultConfiguration();
@@ -16,11 +19,29 @@ void SetDefaultConfiguration();
 //           name more than 46 bytes; what was read before that stays in the state
 void LoadConfiguration();
 
+// Writes the file named by ConfigFilePath and shows its name in the main window's title. A location name is cut at 46
+// bytes of Windows-1252, a character that it lacks becomes "?", and the user is told so.
+//   Reads:  the configuration's fields, ConfigFilePath
+//   Sets:   ConfigSaved (True)
+//   Errors: throws FileFailure where the file cannot be written; nothing has changed then
+void SaveConfiguration();
+
+// Writes the animation settings into the file named by ConfigFilePath, and makes it where there is none. All else in
+// the file stays as it is, and so do title and ConfigSaved.
+//   Reads:  AnimYears, AnimDays, AnimHours, AnimForward, ConfigFilePath
+//   Errors: throws FileFailure where the file cannot be read or written, or is far too large for a configuration
+void SaveAnimationOptions();
+
 // Reads the path of the configuration to open at the start from "Startup.dat" in the current directory: a quoted text,
 // or one that ends at the first comma or the end of the line.
 //   Sets:   ConfigFilePath
 //   Errors: throws FileFailure where there is no such file or it holds no text
 void ReadStartupFile();
+
+// Writes ConfigFilePath in quotes to "Startup.dat", in the directory that was current at the start.
+//   Reads:  ConfigFilePath, AppDirectory
+//   Errors: throws FileFailure where the file cannot be written; the old one is untouched then
+void WriteStartupFile();
 
 // "Gloamtide (Path)" in the main window's title bar.
 void ShowPathInTitle(const std::string& Path);

@@ -7,12 +7,17 @@
 
 namespace gloamtide {
 
-// A file that cannot be read or that does not hold what it should; its text says which file and why.
+// A file that cannot be read or written or that does not hold what it should; its text says which file and why.
 struct FileFailure : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
 // The bytes of a regular file, AtMost of them. Throws FileFailure where there is none or it cannot be read.
 std::string ReadFile(const std::string& Path, std::size_t AtMost);
+
+// Replaces a regular file by one with these bytes, or makes it. Written beside the old one, flushed to disk and put in
+// its place in one step: whatever happens meanwhile, the file is the old or the new one, whole. A symbolic link stays
+// one, permissions stay. Throws FileFailure where that cannot be done; the old file is untouched then.
+void WriteFile(const std::string& Path, const std::string& Bytes);
 
 }  // namespace gloamtide

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <string_view>
 
 namespace gloamtide {
 
@@ -28,5 +29,9 @@ Whole ToWhole(double Value) {
 
 inline std::int16_t ToInt16(double Value) { return ToWhole<std::int16_t>(Value); }
 inline std::int32_t ToInt32(double Value) { return ToWhole<std::int32_t>(Value); }
+
+// The decimal number at the start of a typed text, blanks before it set aside: 1999 of "1999x", 0 where there is none.
+// One beyond the reach of a double is infinite.
+double LeadingNumber(std::string_view Text);
 
 }  // namespace gloamtide
