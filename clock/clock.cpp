@@ -93,11 +93,15 @@ void FormGTMain_Timer2_Timer() {
     RedrawMap();
 }
 
-void FormGTMain_Timer4_Timer() {
+void RebuildMapPictures() {
     ResetMapPictures();
-    state.ConfigSaved = False;
     DrawCityMarks();
     DrawTimeZoneLines();
+}
+
+void FormGTMain_Timer4_Timer() {
+    RebuildMapPictures();
+    state.ConfigSaved = False;
     RedrawMap();
     FormGTMain.LabelWorking.Visible = false;
     FormGTMain.Timer4.Enabled = false;

@@ -22,6 +22,10 @@ void UpdateDateFields();
 //   Sets:   all that the routines of astro/ set, the date fields, the captions of the panel
 void RecomputeAlmanac();
 
+// Makes the cached pictures anew, with their city marks and zone lines, after a change of the map type.
+//   Reads:  MapType
+void RebuildMapPictures();
+
 // Tells the user that the year has left its range.
 void ShowYearLimitMessage();
 

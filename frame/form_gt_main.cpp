@@ -31,7 +31,7 @@ MainForm::MainForm() : Form("FormGTMain", 0.0, 0.0) {
     LabelMouseLong.Caption = "Long";
     LabelMouseLat.Caption = "Lat";
     LabelCity.Caption = "City";
-    for (Label* Each : {&LabelMouseLong, &LabelMouseLat, &LabelAnimSteps, &LabelAnimInfo}) Each->Width = 88.0;
+    for (Label* Each : {&LabelMouseLong, &LabelMouseLat, &LabelAnimInfo}) Each->Width = 88.0;
     Timer4.Interval = 100;
 }
 

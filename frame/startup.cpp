@@ -2,13 +2,17 @@
 
 #include <filesystem>
 
+#include "clock/animation.h"
 #include "clock/clock.h"
+#include "clock/form_animation.h"
 #include "frame/configuration.h"
+#include "frame/file_commands.h"
 #include "frame/files.h"
 #include "frame/form_gt_main.h"
 #include "frame/form_pictures.h"
 #include "frame/layout.h"
 #include "frame/menus.h"
+#include "frame/messages.h"
 #include "frame/small_dialogs.h"
 #include "frame/state.h"
 #include "map/day_night.h"
@@ -20,7 +24,6 @@
 #include "places/cities.h"
 #include "places/form_configure.h"
 #include "places/zones.h"
-#include "platform/host.h"
 #include "sundial/form_sundial_options.h"
 #include "sundial/mottos.h"
 
@@ -32,6 +35,9 @@ void ConnectHandlers() {
     FormPictures.OnLoad = FormPictures_Form_Load;
     FormGTMain.OnLoad = FormGTMain_Form_Load;
     FormGTMain.OnUnload = FormGTMain_Form_Unload;
+    FormGTMain.MenuFileSubOpen.Click = MenuFileSubOpen_Click;
+    FormGTMain.MenuFileSubSave.Click = MenuFileSubSave_Click;
+    FormGTMain.MenuFileSubSaveAs.Click = MenuFileSubSaveAs_Click;
     FormGTMain.MenuFileSubQuit.Click = ExitProgram;
     FormGTMain.MenuQuit.Click = ExitProgram;
     FormGTMain.CommandSDOptions.Click = CommandSDOptions_Click;
@@ -42,13 +48,11 @@ void ConnectHandlers() {
     FormAbout.CmdAboutOK.Click = CmdAboutOK_Click;
     FormGTMain.PictureGT.MouseMove = FormGTMain_PictureGT_MouseMove;
     ConnectMenus();
+    ConnectConfigure();
+    ConnectAnimation();
     FormGTMain.Timer1.Tick = FormGTMain_Timer1_Timer;
     FormGTMain.Timer2.Tick = FormGTMain_Timer2_Timer;
     FormGTMain.Timer4.Tick = FormGTMain_Timer4_Timer;
-}
-
-void UnloadAllForms() {
-    while (!LoadedForms.empty()) LoadedForms.back()->Unload();
 }
 
 void ReadStartupConfiguration() {
@@ -59,9 +63,7 @@ void ReadStartupConfiguration() {
 }
 
 void FallBackToDefaults() {
-    host->Beep();
-    host->Beep();
-    host->ShowMessage({"File Not Found",
+    ShowAfterTwoBeeps({"File Not Found",
                        "Gloamtide Startup file (Startup.dat) or the configuration file it designates not found or "
                        "corrupted - default settings will be used.  Startup.dat must reside in the same directory as "
                        "the Gloamtide program.  You may proceed, changing the configuration as you prefer, and save "
@@ -113,6 +115,8 @@ void FormGTMain_Form_Load() {
     FindConfiguration();
     ShowPathInTitle(state.ConfigFilePath);
     ShowChecks();
+    FormAnimation.Load();
+    ShowAnimationSettings();
     state.ExitInProgress = False;
 
     // The screen and its pictures.
@@ -122,6 +126,7 @@ void FormGTMain_Form_Load() {
     FormGTMain.LabelMouseLat.Caption = "";
     FormGTMain.LabelMouseLong.Caption = "";
     FormGTMain.LabelCity.Caption = "";
+    FormConfigure.Load();
     FormConfigure.FrameSetGTDate.Visible = false;
     FormGTMain.LabelAnimInfo.Visible = false;
     FormGTMain.LabelAnimSteps.Visible = false;
@@ -144,17 +149,6 @@ void FormGTMain_Form_Load() {
     RecomputeAlmanac();
     RedrawMap();
     StartTimers();
-}
-
-void FormGTMain_Form_Unload() {
-    UnloadAllForms();
-    if (state.ExitInProgress == False) ExitProgram();
-}
-
-void ExitProgram() {
-    state.ExitInProgress = True;
-    UnloadAllForms();
-    host->EndProcess();
 }
 
 }  // namespace gloamtide

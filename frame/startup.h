@@ -7,8 +7,10 @@ namespace gloamtide {
 // configuration comes from stands in state.StartupSource.
 void StartProgram();
 
-// Unloads every form, the last loaded first, and ends the process.
-//   Sets:  ExitInProgress
+// Asks whether to save what no file holds yet, writes "Startup.dat", unloads every form, the last loaded first, and
+// ends the process. What cannot be written leads to another Save dialog; Cancel there ends without saving.
+//   Reads:  ConfigSaved
+//   Sets:   ExitInProgress; what SaveConfiguration sets
 void ExitProgram();
 
 void FormSplash_Form_Load();

@@ -161,6 +161,9 @@ struct SharedState {
     std::int16_t LocationLongDegrees = 0;
     std::int16_t LocationLongMinutes = 0;
 
+    // map/stored_pictures
+    std::int16_t MapTypeShown = -1;  // the MapType that the cached pictures were made for
+
     // map/geometry: set at the start of each redraw
     float RotationHour = 0.0F;  // hours, 0 up to 24
     std::int32_t MapShift = 0;  // pixels, 0 to MapWidth

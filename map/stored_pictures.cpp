@@ -17,6 +17,7 @@ void FormPictures_Form_Load() {
 
 void ResetMapPictures() {
     if (state.MapType != 0 && state.MapType != 1) return;
+    state.MapTypeShown = state.MapType;
     PicturesForm& F = FormPictures;
     PictureSurface& Night = state.MapType == 0 ? F.PictureNightOrig : F.PicturePolitNightOrig;
     PictureSurface& Day = state.MapType == 0 ? F.PictureDayOrig : F.PicturePolitDayOrig;

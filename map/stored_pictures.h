@@ -8,7 +8,7 @@ void FormPictures_Form_Load();
 
 // Brings the cached pictures back to the plain map of the current type.
 //   Reads:  MapType (0 natural, 1 political; with any other it does nothing)
-//   Sets:   the ten work pictures of FormPictures
+//   Sets:   MapTypeShown; the ten work pictures of FormPictures
 void ResetMapPictures();
 
 }  // namespace gloamtide

@@ -416,9 +416,10 @@ void BuildCityTable() {
     state.CityCount = 0;
     for (const City& Row : Cities) {
         ++state.CityCount;
-        state.CityLongitude[state.CityCount] = Row.Longitude;
-        state.CityLatitude[state.CityCount] = Row.Latitude;
-        state.CityName[state.CityCount] = Row.Name;
+        const auto Place = static_cast<std::size_t>(state.CityCount);
+        state.CityLongitude[Place] = Row.Longitude;
+        state.CityLatitude[Place] = Row.Latitude;
+        state.CityName[Place] = Row.Name;
         FormConfigure.ComboCityName.AddItem(Row.Name);
         FormConfigure.ComboCityName.SetItemData(FormConfigure.ComboCityName.NewIndex, state.CityCount);
     }

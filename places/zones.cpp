@@ -60,10 +60,6 @@ constexpr Zone Zones[] = {
 static_assert(std::size(Zones) == 32);
 constexpr int GreenwichRow = 13;
 
-void FillNumbers(ComboBox& List, int Last) {
-    for (int Number = 0; Number <= Last; ++Number) List.AddItem(std::string(" ").append(std::to_string(Number)));
-}
-
 int NearestRow(float Hours) {
     if (std::isnan(Hours)) return GreenwichRow;
     const auto Nearest = std::min_element(std::begin(Zones), std::end(Zones), [Hours](const Zone& A, const Zone& B) {
@@ -99,10 +95,17 @@ void BuildZoneTable() {
         state.ZoneShortName[Row] = Zones[Row].ShortName;
     }
     SelectZoneRow();
-    FillNumbers(F.ComboSetLatDeg, 79);
-    FillNumbers(F.ComboSetLongDeg, 179);
-    FillNumbers(F.ComboSetLatMin, 59);
-    FillNumbers(F.ComboSetLongMin, 59);
+    for (const char* Month : {"January", "February", "March", "April", "May", "June", "July", "August", "September",
+                              "October", "November", "December"}) {
+        F.ComboSelMonth.AddItem(Month);
+    }
+    FillNumbers(F.ComboSelDay, 1, 31);
+    FillNumbers(F.ComboSelHour, 0, 23);
+    FillNumbers(F.ComboSelMinute, 0, 59);
+    FillNumbers(F.ComboSetLatDeg, 0, 79);
+    FillNumbers(F.ComboSetLongDeg, 0, 179);
+    FillNumbers(F.ComboSetLatMin, 0, 59);
+    FillNumbers(F.ComboSetLongMin, 0, 59);
 }
 
 void SelectZoneRow() {

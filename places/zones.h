@@ -4,7 +4,8 @@
 namespace gloamtide {
 
 // Fills the zone table and the fixed lists of the Configure dialog, then selects the row in force.
-//   Sets:  ZoneHoursTable, ZoneShortName; ComboSelTZ, ComboSetLatDeg, ComboSetLatMin, ComboSetLongDeg, ComboSetLongMin
+//   Sets:  ZoneHoursTable, ZoneShortName; the lists of zones, months, days, hours, minutes, degrees; what SelectZoneRow
+//          sets
 void BuildZoneTable();
 
 // Selects the row whose hours are exactly ZoneHours. Where there is none, which takes a configuration made by hand,

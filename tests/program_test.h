@@ -9,6 +9,7 @@
 #include <ostream>
 #include <string>
 
+#include "clock/form_animation.h"
 #include "frame/form_gt_main.h"
 #include "frame/form_pictures.h"
 #include "frame/small_dialogs.h"
@@ -34,6 +35,7 @@ protected:
         Renew(FormSplash);
         Renew(FormAbout);
         Renew(FormConfigure);
+        Renew(FormAnimation);
         Renew(FormSundialOptions);
         state = SharedState{};
         const std::string Pattern = (std::filesystem::temp_directory_path() / "gloamtide-test-XXXXXX").string();
@@ -48,7 +50,7 @@ protected:
     }
 
     // Starts the program with the default configuration and no message.
-    void Start() {
+    static void Start() {
         state.StartupSource = ConfigurationSource::Defaults;
         StartProgram();
     }
