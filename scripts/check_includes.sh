@@ -18,7 +18,7 @@ Forbid() {
 
 Forbid 'Qt stays in platform/qt, app and their tests' '^(?!platform/qt/|app/|tests/platform/qt/|tests/app/).*<(Q|q\w+\.h)'
 Forbid 'platform includes nothing of the program' '^platform/[^"]*"(?!platform/)'
-Forbid 'Only app and tests know the hosts' '^(?!platform/(qt|headless)/|app/|bench/|tests/).*"platform/(qt|headless)/'
+Forbid 'Only programs and tests know the hosts' '^(?!platform/(qt|headless)/|app/|bench/|fuzz/|tests/).*"platform/(qt|headless)/'
 Forbid 'astro includes only itself and the state' '^astro/[^"]*"(?!astro/|frame/(state|numbers)\.h")'
-Forbid 'frame/startup.h is for frame and app' '^(?!frame/|app/|bench/|tests/).*"frame/startup\.h"'
+Forbid 'frame/startup.h is for frame and app' '^(?!frame/|app/|bench/|fuzz/|tests/).*"frame/startup\.h"'
 exit $Status
