@@ -21,6 +21,12 @@ void StartOnce() {
     StartProgram();
 }
 
+void SetOverlays(Boolean Shown) {
+    state.ShowSun = state.ShowMoon = state.ShowAnalemma = Shown;
+    state.ShowCities = state.ShowTimezones = state.ShowMapGrid = Shown;
+    state.ShowSundial = Shown;
+}
+
 }  // namespace gloamtide
 
 namespace {
@@ -56,7 +62,8 @@ int main(int Count, char** Arguments) {
     if (benchmark::ReportUnrecognizedArguments(Total, All.data())) return 2;
     RatioReporter Reporter;
     benchmark::RunSpecifiedBenchmarks(&Reporter);
-    for (const char* Name : {"RedrawMap, no overlay", "RedrawMap, all overlays"}) {
+    for (const char* Name :
+         {"RedrawMap, no overlay", "RedrawMap, all overlays", "one step of the animation, all overlays"}) {
         Reporter.PrintRatio(Name, "four memcpy of a map");
     }
     return 0;

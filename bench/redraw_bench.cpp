@@ -28,12 +28,6 @@ void FourCopies(benchmark::State& Runs) {
     }
 }
 
-void SetOverlays(Boolean Shown) {
-    state.ShowSun = state.ShowMoon = state.ShowAnalemma = Shown;
-    state.ShowCities = state.ShowTimezones = state.ShowMapGrid = Shown;
-    state.ShowSundial = Shown;
-}
-
 void Redraw(benchmark::State& Runs) {
     StartOnce();
     for (auto _ : Runs) {
@@ -42,7 +36,6 @@ void Redraw(benchmark::State& Runs) {
     }
 }
 
-// Sun, Moon, analemma, cities, time zones with the hour ruler, grid, sundial.
 void RedrawWithOverlays(benchmark::State& Runs) {
     StartOnce();
     SetOverlays(True);
