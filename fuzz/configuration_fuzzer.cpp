@@ -1,6 +1,6 @@
 // Fuzzes the configuration file: gloamtide_fuzz FOLDER, with configurations to begin from in the folder.
-#include <cstdlib>
-#include <filesystem>
+#include <cstddef>
+#include <cstdint>
 
 #include "frame/startup.h"
 #include "frame/state.h"
