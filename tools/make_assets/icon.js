@@ -31,7 +31,14 @@ function placeSeenAt(x, y) {
     return [longitude, latitude];
 }
 
-export const iconPng = (raster) => globe(raster, 256).toBuffer('image/png');
+// A square PNG, reduced from a larger picture so that its rim is smooth.
+export function iconPng(raster, size) {
+    const canvas = createCanvas(size, size);
+    const context = canvas.getContext('2d');
+    context.imageSmoothingQuality = 'high';
+    context.drawImage(globe(raster, 4 * size), 0, 0, size, size);
+    return canvas.toBuffer('image/png');
+}
 
 export function iconBmp(raster) {
     const size = 64;

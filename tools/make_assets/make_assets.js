@@ -35,5 +35,8 @@ writePicture('assets/political_night.bmp', political.night);
 writePicture('assets/zone_mask.bmp', zoneMask(cities));
 writePicture('assets/splash.bmp', splash(raster));
 writePicture('assets/icon.bmp', iconBmp(raster));
-write('assets/icon.png', iconPng(raster));
+write('assets/icon.png', iconPng(raster, 256));
+for (const size of [16, 24, 32, 48, 64, 128]) {
+    write(`packaging/icons/${size}.png`, iconPng(raster, size));
+}
 write('tests/places/city_zones.txt', cityZonesText(cities));
