@@ -99,6 +99,14 @@ public:
         return Message.Buttons == MessageButtons::OK ? MessageAnswer::OK : MessageAnswer::No;
     }
 
+    // Of all windows only the pictured one is made.
+    void FormLoaded(Form& Which) override {
+        if (&Which == &FormGTMain) QtHost::FormLoaded(Which);
+    }
+    void FormUnloaded(Form& Which) override {
+        if (&Which == &FormGTMain) QtHost::FormUnloaded(Which);
+    }
+
     void FillScreen(QWidget& Window) override {
         Window.resize(Asked.ScreenWidth, ScreenHeight());
         Window.show();
@@ -112,7 +120,7 @@ private:
 
 bool WritePicture(const QPixmap& Picture, const QString& Path) {
     QSaveFile File(Path);
-    return File.open(QIODevice::WriteOnly) && Picture.save(&File, "PNG") && File.commit();
+    return File.open(QIODevice::WriteOnly) && Picture.save(&File, "PNG", 85) && File.commit();
 }
 
 // Each heading of the shown panel with the values that follow it.

@@ -18,8 +18,8 @@ void DrawDial(benchmark::State& Runs, double Latitude) {
     for (auto _ : Runs) DrawSundial();
 }
 
-BENCHMARK_CAPTURE(DrawDial, Middle, 40.0)->Name("sundial at 40 degrees")->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(DrawDial, Equator, 5.0)->Name("sundial at 5 degrees")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(DrawDial, Middle, 40.0)->Name("the sundial at 40 degrees")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(DrawDial, Equator, 5.0)->Name("the sundial at 5 degrees")->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace gloamtide

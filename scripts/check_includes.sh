@@ -16,7 +16,7 @@ Forbid() {
     fi
 }
 
-Forbid 'Qt stays in platform/qt, app and their tests' '^(?!platform/qt/|app/|tests/platform/qt/|tests/app/).*<(Q|q\w+\.h)'
+Forbid 'Qt stays in platform/qt, app, their tests and their yardstick' '^(?!platform/qt/|app/|bench/bare_qt|tests/platform/qt/|tests/app/).*<(Q|q\w+\.h)'
 Forbid 'platform includes nothing of the program' '^platform/[^"]*"(?!platform/)'
 Forbid 'Only programs and tests know the hosts' '^(?!platform/(qt|headless)/|app/|bench/|fuzz/|tests/).*"platform/(qt|headless)/'
 Forbid 'astro includes only itself and the state' '^astro/[^"]*"(?!astro/|frame/(state|numbers)\.h")'
