@@ -75,6 +75,9 @@ void ControlWatcher::Place() {
             Box.moveRight(Edge - 1);
         }
     }
+    if (Border > 0) {  // what a picture holds stays off its border
+        Box &= QRect(Border, Border, qRound(Record.Parent->InnerWidth()), qRound(Record.Parent->InnerHeight()));
+    }
     Widget.setGeometry(Box);
 }
 
