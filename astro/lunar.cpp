@@ -51,27 +51,30 @@ void LunarPosition() {
     state.MoonLitPercent = Single(100.0 * (1.0 - CosDeg(Angle)) / 2.0);
 }
 
+namespace {
+
+// Between new and full moon, and after.
+const char* PhaseBetween(float ElongationHours) {
+    if (ElongationHours <= 5.23F) return "(Waxing)";
+    if (ElongationHours <= 6.77F) return "(1st Quarter)";
+    if (ElongationHours <= 17.23F) return "(Gibbous)";
+    if (ElongationHours <= 18.77F) return "(3rd Quarter)";
+    return "(Waning)";
+}
+
+}  // namespace
+
 void ChooseMoonPhaseText() {
     const float H = state.MoonElongationHours;
     const bool LateInMonth = state.LocalDay >= 29.0F;  // Kept: no search for the month's first full or new moon
     if (H < 0.541F || H > 23.459F) {
         state.MoonPhaseText = LateInMonth ? "(2nd New Moon of Month -- Black Moon)" : "(New)";
-    } else if (H <= 5.23F) {
-        state.MoonPhaseText = "(Waxing)";
-    } else if (H <= 6.77F) {
-        state.MoonPhaseText = "(1st Quarter)";
-    } else if (H <= 11.459F) {
-        state.MoonPhaseText = "(Gibbous)";
-    } else if (H <= 12.541F) {
+    } else if (H > 11.459F && H <= 12.541F) {
         const int Month = std::clamp<int>(ToInt16(state.LocalMonth), 1, 12);  // a broken date has no month
         state.MoonPhaseText = LateInMonth ? "(2nd Full Moon of Month -- Blue Moon)"
                                           : "(Full -- " + state.MoonNames[static_cast<std::size_t>(Month)] + ")";
-    } else if (H <= 17.23F) {
-        state.MoonPhaseText = "(Gibbous)";
-    } else if (H <= 18.77F) {
-        state.MoonPhaseText = "(3rd Quarter)";
     } else {
-        state.MoonPhaseText = "(Waning)";
+        state.MoonPhaseText = PhaseBetween(H);
     }
 }
 

@@ -26,9 +26,8 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 pid_t Start(std::vector<std::string> Words) {
-    std::vector<char*> Arguments;
-    for (std::string& Each : Words) Arguments.push_back(Each.data());
-    Arguments.push_back(nullptr);
+    std::vector<char*> Arguments(Words.size() + 1, nullptr);
+    std::transform(Words.begin(), Words.end(), Arguments.begin(), [](std::string& Each) { return Each.data(); });
     pid_t Process = 0;
     return posix_spawn(&Process, Arguments[0], nullptr, nullptr, Arguments.data(), environ) == 0 ? Process : 0;
 }

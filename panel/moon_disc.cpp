@@ -37,8 +37,8 @@ constexpr Overlay LitArc(float Less, float Start, float End) {
 }
 
 struct Recipe {
-    float Limit;  // elongation in hours, included
-    Shade Base;
+    float Limit = 0.0F;  // elongation in hours, included
+    Shade Base = Shade::Dark;
     Overlay First, Second;
 };
 

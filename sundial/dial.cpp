@@ -172,8 +172,9 @@ void DrawSundial() {
     Dial.DrawWidth = 2;
     Dial.Line(-1000.0, 1000.0, 1000.0, -500.0, ColorOf(state.SundialLineColor), LineForm::Box);
     const double HalfThickness = state.GnomonThickness / 2.0;
-    Dial.Line(-HalfThickness, state.GnomonBaseY, HalfThickness, state.GnomonBaseY + state.GnomonLength,
-              ColorOf(state.SundialGnomonColor), LineForm::BoxFilled);
+    Dial.Line(-HalfThickness, state.GnomonBaseY, HalfThickness,
+              static_cast<float>(state.GnomonBaseY) + state.GnomonLength, ColorOf(state.SundialGnomonColor),
+              LineForm::BoxFilled);
 
     ChooseHours();
     Dial.DrawWidth = 1;

@@ -22,7 +22,7 @@ ControlWatcher::ControlWatcher(Control& TheRecord, QWidget& TheWidget, std::func
     ShownFont = Record.CurrentFont();
     Widget.setFont(InstalledFont(ShownFont));
     Record.Observer = this;
-    ElementChanged(Record);
+    ControlWatcher::ElementChanged(Record);
 }
 
 void ControlWatcher::ElementChanged(Element&) {

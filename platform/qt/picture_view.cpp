@@ -40,7 +40,7 @@ void PictureView::paintEvent(QPaintEvent* Event) {
     }
     if (Picture.Empty()) return;
     const QImage Image(reinterpret_cast<const uchar*>(Picture.Pixels.data()), Picture.Width, Picture.Height,
-                       Picture.Width * static_cast<int>(sizeof(Color)), QImage::Format_RGBX8888);
+                       qsizetype{Picture.Width} * qsizetype{sizeof(Color)}, QImage::Format_RGBX8888);
     // At twice or three times the density a pixel becomes a square; in between it has to be smoothed.
     const bool WholePixels = devicePixelRatioF() == qFloor(devicePixelRatioF());
     Painter.setRenderHint(QPainter::SmoothPixmapTransform, !WholePixels);

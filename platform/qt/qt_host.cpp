@@ -50,7 +50,7 @@ QtHost::~QtHost() {
     host = nullptr;
 }
 
-int QtHost::Run() { return Ended ? 0 : QApplication::exec(); }
+int QtHost::Run() const { return Ended ? 0 : QApplication::exec(); }
 
 QWidget* QtHost::WindowOf(const Form& Which) const {
     const auto Found = Windows.find(&Which);
@@ -77,10 +77,9 @@ void QtHost::Beep() { QApplication::beep(); }
 
 QWidget* QtHost::DialogParent() const {
     if (QWidget* Active = QApplication::activeWindow(); Active != nullptr && Active->isVisible()) return Active;
-    for (auto Each = LoadedForms.rbegin(); Each != LoadedForms.rend(); ++Each) {
-        if ((*Each)->Visible) return WindowOf(**Each);
-    }
-    return nullptr;
+    const auto Shown = [](const Form* Each) { return Each->Visible.Get(); };
+    const auto Topmost = std::find_if(LoadedForms.rbegin(), LoadedForms.rend(), Shown);
+    return Topmost == LoadedForms.rend() ? nullptr : WindowOf(**Topmost);
 }
 
 MessageAnswer QtHost::ShowMessage(const MessageBox& Message) {

@@ -19,7 +19,7 @@ public:
 
     std::map<std::string, QString> HelpTexts;  // in HTML, by the file names that the program asks for
 
-    int Run();  // the event loop, until the program ends the process; returns the exit code
+    int Run() const;  // the event loop, until the program ends the process; returns the exit code
 
     // The window of a loaded form, else null.
     QWidget* WindowOf(const Form& Which) const;

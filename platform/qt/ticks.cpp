@@ -10,7 +10,7 @@ TimerDriver::TimerDriver(Timer& TheRecord, TickGate& TheGate) : Record(TheRecord
     QObject::connect(
         &Gate, &TickGate::Opened, &Clock, [this] { CatchUp(); }, Qt::QueuedConnection);
     Record.Observer = this;
-    ElementChanged(Record);
+    TimerDriver::ElementChanged(Record);
 }
 
 void TimerDriver::ElementChanged(Element&) {

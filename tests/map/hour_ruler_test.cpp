@@ -91,7 +91,6 @@ TEST_F(Ruler, NoBarStaysBehindInADay) {
 TEST_F(Ruler, HoursStandCentredOnTheirColumns) {
     StartAt(3, 30, 1280);
     state.ShowTimezones = True;
-    const Bitmap Before = FormPictures.PictureNightSplit.Picture;
     FormPictures.PictureNightSplit.BackColor = 0;
     DrawZoneHourRuler();
     const Bitmap& Map = FormPictures.PictureNightSplit.Picture;
