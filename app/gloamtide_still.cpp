@@ -76,8 +76,8 @@ Wanted ReadCommandLine(const QStringList& Arguments) {
     ValueOf(Parser, "almanac");
     Result.Almanac = Parser.isSet("almanac");
     const QStringList Rest = Parser.positionalArguments();
-    if (Rest.size() != 1)
-        throw UsageError(Rest.isEmpty() ? "no picture to write is named" : "more than one picture named");
+    if (Rest.size() > 1) throw UsageError("more than one picture named");
+    if (Rest.isEmpty() || Rest.constFirst().isEmpty()) throw UsageError("no picture to write is named");
     Result.Picture = Rest.constFirst();
     return Result;
 }

@@ -57,6 +57,7 @@ constexpr Line Lines[] = {
     {"RedrawMap, no overlay", FourCopies},
     {"RedrawMap, all overlays", FourCopies},
     {"one step of the animation, all overlays", FourCopies},
+    {"the map pictures of a new type", FourCopies},
     {"one tick of the clock", FourCopies},
     {"the sundial at 40 degrees", FourCopies},
     {"the sundial at 5 degrees", FourCopies},

@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "bench/program.h"
+#include "clock/clock.h"
 #include "frame/form_pictures.h"
 #include "frame/state.h"
 #include "map/day_night.h"
@@ -46,8 +47,15 @@ void RedrawWithOverlays(benchmark::State& Runs) {
     SetOverlays(False);
 }
 
+// After a change of the map type: ten pictures, with their city marks and zone lines.
+void Rebuild(benchmark::State& Runs) {
+    StartOnce();
+    for (auto _ : Runs) RebuildMapPictures();
+}
+
 BENCHMARK(FourCopies)->Name("four memcpy of a map")->Unit(benchmark::kMicrosecond);
 BENCHMARK(RedrawWithOverlays)->Name("RedrawMap, all overlays")->Unit(benchmark::kMicrosecond);
+BENCHMARK(Rebuild)->Name("the map pictures of a new type")->Unit(benchmark::kMicrosecond);
 BENCHMARK(Redraw)->Name("RedrawMap, no overlay")->Unit(benchmark::kMicrosecond);
 
 }  // namespace

@@ -59,6 +59,7 @@ void KeepSettings() {
 
 AnimationForm::AnimationForm() : Form("FormAnimation", 4365.0, 3765.0) {
     Caption = "Gloamtide - Configure Animation";
+    PictureAnimationOptions.Description = "Animation settings";
     PictureAnimationOptions.BackColor = RGB(192, 192, 192);
     PictureAnimationOptions.Size(4365.0, 3765.0);
     LabelAnimSettings.Caption = "Animation Settings";

@@ -11,6 +11,8 @@ MainForm::MainForm() : Form("FormGTMain", 0.0, 0.0) {
     PictureGT.ScalePixels();
     PictureGT.BackColor = RGB(0, 0, 0);
     PictureGT.BorderWidth = 2;
+    PictureGT.Description = "World map";
+    PictureGTContainer.Description = "World map and almanac";
 
     DesignPanels();
     DesignSundial();
@@ -38,6 +40,7 @@ MainForm::MainForm() : Form("FormGTMain", 0.0, 0.0) {
 void MainForm::DesignSundial() {
     PictureSundial.BackColor = RGB(255, 224, 192);
     PictureSundial.Visible = false;
+    PictureSundial.Description = "Sundial";
     for (int Hour = 0; Hour < 24; ++Hour) {
         Label& Number = LabelHour[static_cast<std::size_t>(Hour)];
         Number.Caption = std::to_string(Hour % 12 == 0 ? 12 : Hour % 12);

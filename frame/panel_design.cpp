@@ -136,6 +136,7 @@ void MainForm::DesignPanels() {
         const PanelDesign& Panel = Panels[Class];
         PictureGTData[Class].Size(Panel.Width / TwipsPerPixel, Panel.Height / TwipsPerPixel);
         PictureGTData[Class].BackColor = RGB(0, 0, 0);
+        PictureGTData[Class].Description = "Almanac";
         PictureGTData[Class].Visible = false;
         for (std::size_t Row = 0; Row < 9; ++Row) {
             PlacePair(LeftPairs[Row], Class, Row, 0);

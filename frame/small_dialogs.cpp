@@ -20,10 +20,11 @@ void ShowImage(PictureSurface& Surface, AssetBytes Bytes) {
 
 SplashForm::SplashForm() : Form("FormSplash", 9345.0, 3870.0, true) {
     Caption = "Welcome to Gloamtide";
+    ImageSplash.Description = "Gloamtide";
     LabelSplash.Caption = "Program loading ----- please wait";
     LabelSplash.ForeColor = RGB(255, 255, 255);
     LabelSplash.FontSize = 12.0;
-    LabelSplash.Size(6000.0, 360.0);
+    LabelSplash.Size(5760.0, 360.0);
 }
 
 void PlaceSplash() {
@@ -35,6 +36,7 @@ void PlaceSplash() {
 AboutForm::AboutForm() : Form("FormAbout", 6810.0, 5220.0) {
     Caption = "About Gloamtide";
     FrameAbout.Size(4500.0, 2700.0);
+    Image1.Description = "Gloamtide's icon";
     LabelAbout.Caption = "Gloamtide Version 4.01";
     LabelAbout.FontSize = 12.0;
     LabelAbout.TextAlignment = Alignment::Center;

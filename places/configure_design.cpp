@@ -66,6 +66,7 @@ void PlaceCoordinate(const CoordinateControls& C, const char* Caption, const cha
 
 ConfigureForm::ConfigureForm() : Form("FormConfigure", 9285.0, 6645.0) {
     Caption = "Gloamtide - Configure";
+    PictureConfigureGT.Description = "Place, date and time";
     PictureConfigureGT.BackColor = RGB(128, 128, 128);
     PictureConfigureGT.Size(9285.0, 6645.0);
     DesignLocation();
@@ -76,6 +77,7 @@ ConfigureForm::ConfigureForm() : Form("FormConfigure", 9285.0, 6645.0) {
     LabelSelTimezone.ForeColor = RGB(255, 255, 255);
     LabelSelTimezone.Move(Margin, 5370.0);
     LabelSelTimezone.Height = 270.0;
+    ComboSelTZ.FontSize = 7.5;  // so that its longest entry has room
     PlaceBox(ComboSelTZ, 1275.0, 5325.0, RightColumn + ColumnWidth - 1275.0, LineHeight);
     CmdConfigureOK.Caption = "OK";
     CmdConfigureOK.Default = true;

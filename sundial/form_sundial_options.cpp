@@ -36,6 +36,7 @@ void Leave() {
 
 SundialOptionsForm::SundialOptionsForm() : Form("FormSundialOptions", 3885.0, 2325.0) {
     Caption = "Sundial Options";
+    PictureSundialOptions.Description = "Sundial options";
     PictureSundialOptions.BackColor = RGB(192, 192, 192);
     PictureSundialOptions.Size(3885.0, 2700.0);
     LabelSundialOptions.Caption = "Set Sundial Options";

@@ -5,19 +5,12 @@
 
 #include <filesystem>
 #include <fstream>
-#include <memory>
 #include <ostream>
 #include <string>
 
-#include "clock/form_animation.h"
-#include "frame/form_gt_main.h"
-#include "frame/form_pictures.h"
-#include "frame/small_dialogs.h"
 #include "frame/startup.h"
-#include "frame/state.h"
-#include "places/form_configure.h"
 #include "platform/headless/headless_host.h"
-#include "sundial/form_sundial_options.h"
+#include "tests/fresh_program.h"
 
 namespace gloamtide {
 
@@ -29,15 +22,7 @@ void PrintTo(const Property<T>& Value, std::ostream* Out) {
 class ProgramTest : public testing::Test {
 protected:
     ProgramTest() {
-        LoadedForms.clear();
-        Renew(FormPictures);
-        Renew(FormGTMain);
-        Renew(FormSplash);
-        Renew(FormAbout);
-        Renew(FormConfigure);
-        Renew(FormAnimation);
-        Renew(FormSundialOptions);
-        state = SharedState{};
+        RenewProgram();
         const std::string Pattern = (std::filesystem::temp_directory_path() / "gloamtide-test-XXXXXX").string();
         std::string Name = Pattern;
         Folder = mkdtemp(Name.data());
@@ -61,13 +46,6 @@ protected:
 
     HeadlessHost Desktop;
     std::filesystem::path Folder;  // current directory of the test
-
-private:
-    template <class T>
-    static void Renew(T& Form) {
-        std::destroy_at(&Form);
-        std::construct_at(&Form);
-    }
 };
 
 }  // namespace gloamtide

@@ -1,6 +1,7 @@
 #include "platform/qt/control_watcher.h"
 
 #include <QLabel>
+#include <algorithm>
 
 #include "platform/qt/fonts.h"
 
@@ -75,8 +76,10 @@ void ControlWatcher::Place() {
             Box.moveRight(Edge - 1);
         }
     }
-    if (Border > 0) {  // what a picture holds stays off its border
-        Box &= QRect(Border, Border, qRound(Record.Parent->InnerWidth()), qRound(Record.Parent->InnerHeight()));
+    if (Border > 0) {  // what a picture holds stays off its border, and is whole where there is room
+        const QRect Inner(Border, Border, qRound(Record.Parent->InnerWidth()), qRound(Record.Parent->InnerHeight()));
+        Box.moveBottom(std::min(Box.bottom(), Inner.bottom()));
+        Box &= Inner;
     }
     Widget.setGeometry(Box);
 }

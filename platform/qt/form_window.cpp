@@ -75,8 +75,12 @@ void FormWindow::Show() {
         Desktop.FillScreen(*this);
         raise();
         activateWindow();
-        // A dialog starts at its first field each time.
-        if (FindButton(Record, &CommandButton::Default) == nullptr) return;
+        if (FindButton(Record, &CommandButton::Default) == nullptr) {
+            Board->setFocus();  // the keys that scroll arrive where they scroll
+            return;
+        }
+        // A dialog starts at its first field each time, and shows it.
+        setAttribute(Qt::WA_KeyboardFocusChange);
         focusNextChild();
         if (QWidget* First = focusWidget(); First != nullptr) SelectText(*First);
     } else {

@@ -3,8 +3,10 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSplitter>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTextBlock>
 #include <QTextBrowser>
@@ -48,12 +50,13 @@ HelpWindow::HelpWindow(const QString& Html) : Text(new QTextBrowser) {
     Tabs->addTab(MakeContents(), "&Contents");
     Tabs->addTab(MakeIndex(), "&Index");
     Tabs->addTab(MakeSearch(), "&Search");
+    Tabs->setMinimumWidth(Tabs->tabBar()->sizeHint().width());
     auto* Halves = new QSplitter;
     Halves->addWidget(Tabs);
     Halves->addWidget(Text);
     Halves->setSizes({260, 620});
     setCentralWidget(Halves);
-    resize(880, 640);
+    resize(QSize(880, 640).boundedTo(screen()->availableSize() - QSize(16, 48)));  // with a frame round it
 }
 
 QListWidget* HelpWindow::MakeList(const QString& Name) {

@@ -23,7 +23,7 @@ void SetAccessibleName(QWidget& Widget, const QString& Name) {
 
 // What a screen reader calls a control without a caption: the label that leads to it, made before it in its container.
 QString NameByHeading(const Control& Field) {
-    QString Heading = QString::fromStdString(Field.Name);
+    QString Heading;
     for (const Control* Sibling : Field.Parent->Children) {
         if (Sibling == &Field) break;
         if (const auto* Text = dynamic_cast<const Label*>(Sibling)) Heading = QString::fromStdString(Text->Caption);
@@ -34,7 +34,10 @@ QString NameByHeading(const Control& Field) {
 // The same for a group: the label that it begins with, or the one before it.
 QString NameOfGroup(const Frame& Group) {
     const auto* Title = Group.Children.empty() ? nullptr : dynamic_cast<const Label*>(Group.Children.front());
-    return Title == nullptr ? NameByHeading(Group) : QString::fromStdString(Title->Caption);
+    const Control* Next = Group.Children.size() < 2 ? nullptr : Group.Children[1];
+    const bool OfAField =
+        dynamic_cast<const TextBox*>(Next) != nullptr || dynamic_cast<const ComboBox*>(Next) != nullptr;
+    return Title == nullptr || OfAField ? NameByHeading(Group) : QString::fromStdString(Title->Caption);
 }
 
 void Watch(Control& Record, QWidget& Widget, Watchers& Watching, std::function<void()> ShowKind) {
@@ -80,11 +83,19 @@ void MakeCommandButton(CommandButton& Record, QWidget& Parent, Watchers& Watchin
     });
 }
 
+// Of a group the Tab key comes to the selected option alone.
+void TakeTab(QRadioButton& Selected) {
+    for (auto* Each : Selected.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly)) {
+        Each->setFocusPolicy(Each == &Selected ? Qt::StrongFocus : Qt::ClickFocus);
+    }
+}
+
 void ShowOption(const OptionButton& Record, QRadioButton& Widget) {
     const QString Caption = QString::fromStdString(Record.Caption);
     if (Widget.text() != Caption) Widget.setText(Caption);
     SetAccessibleName(Widget, Spoken(Caption));
     SetRole(Widget, QPalette::WindowText, Record.ForeColor);
+    if (Record.Value) TakeTab(Widget);
     if (Widget.isChecked() == Record.Value) return;
     Widget.setAutoExclusive(Record.Value);  // an exclusive one cannot be switched off, except by a neighbour
     Widget.setChecked(Record.Value);
