@@ -4,7 +4,7 @@
 
 #include "bench/program.h"
 #include "clock/animation.h"
-#include "frame/state.h"
+#include "state/state.h"
 
 namespace gloamtide {
 namespace {

@@ -9,8 +9,8 @@
 #include <filesystem>
 
 #include "bench/program.h"
-#include "frame/configuration.h"
-#include "frame/state.h"
+#include "state/state.h"
+#include "storage/configuration.h"
 
 namespace gloamtide {
 namespace {

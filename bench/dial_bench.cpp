@@ -4,7 +4,7 @@
 
 #include "bench/program.h"
 #include "clock/clock.h"
-#include "frame/state.h"
+#include "state/state.h"
 #include "sundial/dial.h"
 
 namespace gloamtide {

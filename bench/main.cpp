@@ -9,8 +9,8 @@
 #include "bench/processes.h"
 #include "bench/program.h"
 #include "frame/startup.h"
-#include "frame/state.h"
 #include "platform/headless/headless_host.h"
+#include "state/state.h"
 
 namespace gloamtide {
 

@@ -17,8 +17,8 @@
 #include <vector>
 
 #include "bench/program.h"
-#include "frame/configuration.h"
-#include "frame/state.h"
+#include "state/state.h"
+#include "storage/configuration.h"
 
 namespace gloamtide {
 namespace {

@@ -1,7 +1,7 @@
 // The started program, at the largest map size, shared by all benchmarks of a run.
 #pragma once
 
-#include "frame/state.h"
+#include "state/state.h"
 
 namespace gloamtide {
 

@@ -6,9 +6,9 @@
 
 #include "bench/program.h"
 #include "clock/clock.h"
-#include "frame/form_pictures.h"
-#include "frame/state.h"
+#include "forms/form_pictures.h"
 #include "map/day_night.h"
+#include "state/state.h"
 
 namespace gloamtide {
 namespace {

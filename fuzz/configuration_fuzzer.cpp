@@ -3,8 +3,8 @@
 #include <cstdint>
 
 #include "frame/startup.h"
-#include "frame/state.h"
-#include "tests/frame/configuration_fuzz.h"
+#include "state/state.h"
+#include "tests/storage/configuration_fuzz.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size) {
     using namespace gloamtide;

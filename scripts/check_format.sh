@@ -3,6 +3,6 @@
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
-mapfile -t Files < <(find app astro bench clock frame fuzz map panel places platform sundial tests tools assets \
+mapfile -t Files < <(find src bench fuzz tests tools assets \
     -name node_modules -prune -o -name '*.h' -print -o -name '*.cpp' -print)
 clang-format-14 --dry-run -Werror "${Files[@]}"

@@ -5,4 +5,4 @@ set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 run-clang-tidy-14 -quiet -j "$(nproc)" -p "$1" \
-    "^$PWD/(app|astro|bench|clock|frame|map|panel|places|platform|sundial)/.*\.cpp$" 2>/dev/null | sed '/^clang-tidy-14 /d'
+    "^$PWD/(src|bench)/.*\.cpp$" 2>/dev/null | sed '/^clang-tidy-14 /d'

@@ -3,13 +3,13 @@
 
 #include <memory>
 
-#include "clock/form_animation.h"
-#include "frame/form_gt_main.h"
-#include "frame/form_pictures.h"
-#include "frame/small_dialogs.h"
-#include "frame/state.h"
-#include "places/form_configure.h"
-#include "sundial/form_sundial_options.h"
+#include "dialogs/animation_settings.h"
+#include "dialogs/configure.h"
+#include "dialogs/small_dialogs.h"
+#include "dialogs/sundial_options.h"
+#include "forms/form_gt_main.h"
+#include "forms/form_pictures.h"
+#include "state/state.h"
 
 namespace gloamtide {
 

@@ -7,12 +7,12 @@
 #include <limits>
 #include <string>
 
+#include "astro/calendar.h"
 #include "astro/lunar.h"
 #include "astro/seasons.h"
 #include "astro/solar.h"
 #include "astro/sunrise.h"
-#include "clock/calendar.h"
-#include "frame/state.h"
+#include "state/state.h"
 
 namespace {
 

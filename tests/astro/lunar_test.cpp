@@ -5,8 +5,8 @@
 #include <cmath>
 
 #include "astro/solar.h"
-#include "frame/state.h"
 #include "panel/information_panel.h"
+#include "state/state.h"
 
 namespace gloamtide {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "frame/state.h"
+#include "state/state.h"
 
 namespace gloamtide {
 namespace {

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <limits>
 
-#include "frame/state.h"
+#include "state/state.h"
 
 namespace gloamtide {
 namespace {

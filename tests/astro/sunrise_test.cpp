@@ -6,7 +6,7 @@
 #include <limits>
 
 #include "astro/solar.h"
-#include "frame/state.h"
+#include "state/state.h"
 
 namespace gloamtide {
 namespace {

@@ -1,6 +1,6 @@
 #include "clock/animation.h"
 
-#include "clock/calendar.h"
+#include "astro/calendar.h"
 #include "clock/clock.h"
 #include "tests/program_test.h"
 

@@ -1,7 +1,7 @@
 #include "frame/file_commands.h"
 
-#include "frame/configuration.h"
-#include "frame/files.h"
+#include "storage/configuration.h"
+#include "storage/files.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {

@@ -3,7 +3,7 @@
 #include <limits>
 
 #include "clock/clock.h"
-#include "frame/layout.h"
+#include "forms/layout.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {

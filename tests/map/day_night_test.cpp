@@ -6,7 +6,7 @@
 
 #include "astro/degrees.h"
 #include "clock/clock.h"
-#include "frame/layout.h"
+#include "forms/layout.h"
 #include "map/geometry.h"
 #include "map/stored_pictures.h"
 #include "tests/program_test.h"

@@ -4,9 +4,9 @@
 #include <set>
 
 #include "assets/assets.h"
-#include "frame/layout.h"
-#include "frame/stored_bitmap.h"
+#include "forms/layout.h"
 #include "map/geometry.h"
+#include "surface/stored_bitmap.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {

@@ -3,9 +3,9 @@
 #include <cmath>
 #include <sstream>
 
-#include "frame/layout.h"
-#include "frame/numbers.h"
+#include "forms/layout.h"
 #include "map/stored_pictures.h"
+#include "state/numbers.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {

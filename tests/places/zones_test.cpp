@@ -3,7 +3,7 @@
 #include <cmath>
 #include <limits>
 
-#include "places/form_configure.h"
+#include "dialogs/configure.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {

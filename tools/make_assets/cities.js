@@ -4,7 +4,7 @@ import { readFileSync } from 'node:fs';
 import { kmPerDegree, radians } from './geometry.js';
 import { codeOfZone, isSeaZone, zoneAt } from './zones.js';
 
-const table = new URL('../../places/cities.cpp', import.meta.url);
+const table = new URL('../../src/places/cities.cpp', import.meta.url);
 const rows = 350;
 
 // Rows of the table, from 1 on, with the zone at each city's own coordinates and its mask code.

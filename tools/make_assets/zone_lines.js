@@ -118,4 +118,4 @@ const percent = ({ steps, agreeing }) => `${agreeing} of ${steps}, ${((100 * agr
 console.log(`zone lines: ${checkedForm(lines, { lineCount, pointCount, offGrid: pointsOffGrid })}`);
 console.log(`steps beside land that part two zones of the mask: ${percent(agreement(mask, lines))}`);
 console.log(`  of those in the given rows: ${percent(agreement(mask, [beginning.points, end.points]))}`);
-writeFileSync(new URL('map/zone_line_points.inc', project), tableText(table));
+writeFileSync(new URL('src/map/zone_line_points.inc', project), tableText(table));

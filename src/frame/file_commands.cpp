@@ -1,0 +1,68 @@
+#include "frame/file_commands.h"
+
+#include "clock/clock.h"
+#include "dialogs/animation_settings.h"
+#include "forms/form_gt_main.h"
+#include "forms/messages.h"
+#include "frame/menus.h"
+#include "map/day_night.h"
+#include "places/zones.h"
+#include "state/state.h"
+#include "storage/configuration.h"
+#include "storage/files.h"
+
+namespace gloamtide {
+namespace {
+
+void OpenConfiguration(const std::string& Path) {
+    state.ConfigOpenPath = Path;
+    LoadConfiguration();
+    state.ConfigFilePath = state.ConfigOpenPath;
+    SelectZoneRow();
+    ShowChecks();
+    if (state.MapType != state.MapTypeShown) RebuildMapPictures();
+    ShowAnimationSettings();
+    ReadSystemClock();
+    state.CurrentJD = state.OffsetDays + state.SystemJD;
+    RecomputeAlmanac();
+    RedrawMap();
+    FormGTMain.Timer1.Enabled = true;
+}
+
+}  // namespace
+
+void MenuFileSubOpen_Click() {
+    while (const auto Path = host->ShowOpenDialog({ConfigurationFilter, ""})) {
+        try {
+            OpenConfiguration(*Path);
+            return;
+        } catch (const FileFailure&) {
+            ShowAfterTwoBeeps({"File Invalid", "Designated file improperly formatted.", MessageIcon::Exclamation});
+        }
+    }
+}
+
+void MenuFileSubSave_Click() {
+    try {
+        SaveConfiguration();
+    } catch (const FileFailure& Failure) {
+        ShowAfterTwoBeeps(
+            {"Save Error", std::string("Can't save the configuration. ") + Failure.what(), MessageIcon::Exclamation});
+    }
+}
+
+void MenuFileSubSaveAs_Click() {
+    const std::string PathBefore = state.ConfigFilePath;
+    while (const auto Path = host->ShowSaveDialog({ConfigurationFilter, state.ConfigFilePath})) {
+        try {
+            state.ConfigFilePath = *Path;
+            SaveConfiguration();
+            return;
+        } catch (const FileFailure&) {
+            ShowAfterTwoBeeps({"Save-As Error", "Error - can't save file.", MessageIcon::Exclamation});
+        }
+    }
+    state.ConfigFilePath = PathBefore;
+}
+
+}  // namespace gloamtide

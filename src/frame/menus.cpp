@@ -1,0 +1,74 @@
+#include "frame/menus.h"
+
+#include <array>
+
+#include "dialogs/small_dialogs.h"
+#include "forms/form_gt_main.h"
+#include "map/day_night.h"
+#include "platform/host.h"
+#include "state/state.h"
+
+namespace gloamtide {
+namespace {
+
+struct ShowHideItem {
+    Menu& Item;
+    Boolean& Flag;
+};
+
+std::array<ShowHideItem, 7> ShowHideItems() {
+    MainForm& F = FormGTMain;
+    return {{{F.MenuShowHideSubSun, state.ShowSun},
+             {F.MenuShowHideSubMoon, state.ShowMoon},
+             {F.MenuShowHideSubAnalemma, state.ShowAnalemma},
+             {F.MenuShowHideSubCities, state.ShowCities},
+             {F.MenuShowHideSubMapGrid, state.ShowMapGrid},
+             {F.MenuShowHideSubTimezones, state.ShowTimezones},
+             {F.MenuShowHideSubSundial, state.ShowSundial}}};
+}
+
+void ShowOrHide(const ShowHideItem& Command) {
+    Command.Flag = Command.Flag == True ? False : True;
+    Command.Item.Checked = Command.Flag == True;
+    state.ConfigSaved = False;
+    RedrawMap();
+}
+
+void CheckMapType() {
+    MainForm& F = FormGTMain;
+    F.MenuMapSubNatural.Checked = state.MapType == 0;
+    F.MenuMapSubPolitical.Checked = state.MapType == 1;
+    for (Label* Each : {&F.LabelMouseLat, &F.LabelMouseLong, &F.LabelAnimInfo, &F.LabelAnimSteps, &F.LabelCity}) {
+        Each->ForeColor = QBColor(14);
+    }
+}
+
+void ChangeMapType(std::int16_t NewType) {
+    state.MapType = NewType;
+    FormGTMain.LabelWorking.Visible = true;
+    CheckMapType();
+    FormGTMain.Timer4.Enabled = true;
+}
+
+}  // namespace
+
+void ConnectMenus() {
+    for (const ShowHideItem& Command : ShowHideItems()) {
+        Command.Item.Click = [Command] { ShowOrHide(Command); };
+    }
+    FormGTMain.MenuMapSubNatural.Click = MenuMapSubNatural_Click;
+    FormGTMain.MenuMapSubPolitical.Click = MenuMapSubPolitical_Click;
+    FormGTMain.MenuHelpSubContents.Click = MenuHelpSubContents_Click;
+    FormGTMain.MenuHelpSubAbout.Click = MenuHelpSubAbout_Click;
+}
+
+void ShowChecks() {
+    for (const ShowHideItem& Command : ShowHideItems()) Command.Item.Checked = Command.Flag == True;
+    CheckMapType();
+}
+
+void MenuMapSubNatural_Click() { ChangeMapType(0); }
+void MenuMapSubPolitical_Click() { ChangeMapType(1); }
+void MenuHelpSubContents_Click() { host->ShowHelp("GT401.hlp"); }
+
+}  // namespace gloamtide

@@ -1,0 +1,154 @@
+#include "frame/startup.h"
+
+#include <filesystem>
+
+#include "clock/animation.h"
+#include "clock/clock.h"
+#include "dialogs/animation_settings.h"
+#include "dialogs/configure.h"
+#include "dialogs/small_dialogs.h"
+#include "dialogs/sundial_options.h"
+#include "forms/form_gt_main.h"
+#include "forms/form_pictures.h"
+#include "forms/layout.h"
+#include "forms/messages.h"
+#include "frame/file_commands.h"
+#include "frame/menus.h"
+#include "map/day_night.h"
+#include "map/graticule.h"
+#include "map/mouse_probe.h"
+#include "map/stored_pictures.h"
+#include "map/zone_lines.h"
+#include "panel/information_panel.h"
+#include "places/cities.h"
+#include "places/zones.h"
+#include "state/state.h"
+#include "storage/configuration.h"
+#include "storage/files.h"
+#include "sundial/mottos.h"
+
+namespace gloamtide {
+namespace {
+
+void ConnectHandlers() {
+    FormSplash.OnLoad = FormSplash_Form_Load;
+    FormPictures.OnLoad = FormPictures_Form_Load;
+    FormGTMain.OnLoad = FormGTMain_Form_Load;
+    FormGTMain.OnUnload = FormGTMain_Form_Unload;
+    FormGTMain.MenuFileSubOpen.Click = MenuFileSubOpen_Click;
+    FormGTMain.MenuFileSubSave.Click = MenuFileSubSave_Click;
+    FormGTMain.MenuFileSubSaveAs.Click = MenuFileSubSaveAs_Click;
+    FormGTMain.MenuFileSubQuit.Click = ExitProgram;
+    FormGTMain.MenuQuit.Click = ExitProgram;
+    FormGTMain.CommandSDOptions.Click = CommandSDOptions_Click;
+    FormSundialOptions.OnLoad = FormSundialOptions_Form_Load;
+    FormSundialOptions.CommandSDOptionsOK.Click = CommandSDOptionsOK_Click;
+    FormSundialOptions.CommandSDOptionsCancel.Click = CommandSDOptionsCancel_Click;
+    FormAbout.OnLoad = FormAbout_Form_Load;
+    FormAbout.CmdAboutOK.Click = CmdAboutOK_Click;
+    FormGTMain.PictureGT.MouseMove = FormGTMain_PictureGT_MouseMove;
+    ConnectMenus();
+    ConnectConfigure();
+    ConnectAnimation();
+    FormGTMain.Timer1.Tick = FormGTMain_Timer1_Timer;
+    FormGTMain.Timer2.Tick = FormGTMain_Timer2_Timer;
+    FormGTMain.Timer4.Tick = FormGTMain_Timer4_Timer;
+}
+
+void ReadStartupConfiguration() {
+    if (state.StartupSource == ConfigurationSource::StartupFile) ReadStartupFile();
+    state.ConfigOpenPath = state.ConfigFilePath;
+    LoadConfiguration();
+    state.ConfigSaved = True;
+}
+
+void FallBackToDefaults() {
+    ShowAfterTwoBeeps({"File Not Found",
+                       "Gloamtide Startup file (Startup.dat) or the configuration file it designates not found or "
+                       "corrupted - default settings will be used.  Startup.dat must reside in the same directory as "
+                       "the Gloamtide program.  You may proceed, changing the configuration as you prefer, and save "
+                       "it.  On subsequent starts, Gloamtide will show the last-saved configuration.  For more, refer "
+                       "to \"Startup File\" in the Help index."});
+    SetDefaultConfiguration();
+}
+
+void FindConfiguration() {
+    std::error_code Ignored;  // a current directory that was removed has no name
+    state.AppDirectory = std::filesystem::current_path(Ignored).string();
+    if (state.StartupSource == ConfigurationSource::Defaults) {
+        SetDefaultConfiguration();
+        return;
+    }
+    try {
+        ReadStartupConfiguration();
+    } catch (const FileFailure&) {
+        FallBackToDefaults();
+    }
+}
+
+void StartTimers() {
+    FormGTMain.Timer1.Interval = 1000;
+    FormGTMain.Timer1.Enabled = true;
+    FormGTMain.Timer2.Interval = 60000;
+    FormGTMain.Timer2.Enabled = true;
+    FormGTMain.Timer3.Interval = 1000;
+}
+
+}  // namespace
+
+void StartProgram() {
+    ConnectHandlers();
+    FormSplash.Load();
+}
+
+void FormSplash_Form_Load() {
+    PlaceSplash();
+    FormSplash.Show();
+    host->ProcessPendingEvents();
+    FormGTMain.Load();
+    FormGTMain.Show();
+    FormSplash.Unload();
+}
+
+void FormGTMain_Form_Load() {
+    // The configuration, and what the window shows of it.
+    FindConfiguration();
+    ShowPathInTitle(state.ConfigFilePath);
+    ShowChecks();
+    FormAnimation.Load();
+    ShowAnimationSettings();
+    state.ExitInProgress = False;
+
+    // The screen and its pictures.
+    MeasureScreen();
+    ResetMapPictures();
+    LayOutMainWindow();
+    FormGTMain.LabelMouseLat.Caption = "";
+    FormGTMain.LabelMouseLong.Caption = "";
+    FormGTMain.LabelCity.Caption = "";
+    FormConfigure.Load();
+    FormConfigure.FrameSetGTDate.Visible = false;
+    FormGTMain.LabelAnimInfo.Visible = false;
+    FormGTMain.LabelAnimSteps.Visible = false;
+    FormGTMain.CmdAnimStop.Visible = false;
+
+    // The tables, and what is drawn once into the cached pictures.
+    BuildZoneTable();
+    BuildCityTable();
+    LoadMonthNames();
+    LoadMoonNames();
+    LoadMottos();
+    ScaleMapPictures();
+    DrawCityMarks();
+    DrawTimeZoneLines();
+
+    // The instant, all that follows from it, and the clock.
+    ReadSystemClock();
+    ChooseMotto();
+    state.CurrentJD = state.SystemJD + state.OffsetDays;
+    RecomputeAlmanac();
+    RedrawMap();
+    StartTimers();
+}
+
+}  // namespace gloamtide

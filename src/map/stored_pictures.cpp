@@ -1,0 +1,42 @@
+#include "map/stored_pictures.h"
+
+#include "assets/assets.h"
+#include "forms/form_pictures.h"
+#include "map/geometry.h"
+#include "surface/stored_bitmap.h"
+
+namespace gloamtide {
+
+void FormPictures_Form_Load() {
+    FormPictures.PictureDayOrig.SetPicture(DecodeBmp(NaturalDayBmp()));
+    FormPictures.PictureNightOrig.SetPicture(DecodeBmp(NaturalNightBmp()));
+    FormPictures.PicturePolitDayOrig.SetPicture(DecodeBmp(PoliticalDayBmp()));
+    FormPictures.PicturePolitNightOrig.SetPicture(DecodeBmp(PoliticalNightBmp()));
+    FormPictures.PictureTZmask.SetPicture(DecodeBmp(ZoneMaskBmp()));
+}
+
+void ResetMapPictures() {
+    if (state.MapType != 0 && state.MapType != 1) return;
+    state.MapTypeShown = state.MapType;
+    PicturesForm& F = FormPictures;
+    PictureSurface& Night = state.MapType == 0 ? F.PictureNightOrig : F.PicturePolitNightOrig;
+    PictureSurface& Day = state.MapType == 0 ? F.PictureDayOrig : F.PicturePolitDayOrig;
+    const auto Stretch = [](PictureSurface& To, PictureSurface& From) {
+        StretchBlt(To, 0, 0, state.MapWidth, state.MapHeight, From, 0, 0, StoredWidth, StoredHeight);
+    };
+    Stretch(F.PictureNight, Night);
+    Stretch(F.PictureDay, Day);
+    // The others would stretch into the same pixels: copies are some times cheaper.
+    const auto Copy = [](PictureSurface& To, PictureSurface& From) {
+        BitBlt(To, 0, 0, state.MapWidth, state.MapHeight, From, 0, 0);
+    };
+    for (PictureSurface* To :
+         {&F.PictureCitiesNight, &F.PictureTZNight, &F.PictureTZCitiesNight, &F.PictureNightSplit}) {
+        Copy(*To, F.PictureNight);
+    }
+    for (PictureSurface* To : {&F.PictureCitiesDay, &F.PictureTZDay, &F.PictureTZCitiesDay, &F.PictureDaySplit}) {
+        Copy(*To, F.PictureDay);
+    }
+}
+
+}  // namespace gloamtide

@@ -1,0 +1,186 @@
+// BitBlt and StretchBlt of frame/picture_surface.h.
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <vector>
+
+#include "surface/picture_surface.h"
+
+namespace gloamtide {
+namespace {
+
+// One axis of a copy: where it starts in both surfaces and how long it is. 64 bits, so that no argument overflows.
+struct CopyAxis {
+    std::int64_t To;
+    std::int64_t From;
+    std::int64_t Length;
+
+    // Turns a negative length round and cuts off what lies outside either surface.
+    CopyAxis(int TheTo, int TheFrom, int TheLength, int ToSize, int FromSize)
+        : To(TheTo), From(TheFrom), Length(TheLength) {
+        if (Length < 0) {
+            To += Length;
+            From += Length;
+            Length = -Length;
+        }
+        const std::int64_t Before = std::max<std::int64_t>({0, -To, -From});
+        To += Before;
+        From += Before;
+        Length = std::min({Length - Before, ToSize - To, FromSize - From});
+    }
+};
+
+}  // namespace
+
+void BitBlt(PictureSurface& Destination, int X, int Y, int Width, int Height, PictureSurface& Source, int SourceX,
+            int SourceY) {
+    Bitmap& To = Destination.Canvas();
+    Bitmap& From = Source.Canvas();
+    const CopyAxis Columns(X, SourceX, Width, To.Width, From.Width);
+    const CopyAxis Rows(Y, SourceY, Height, To.Height, From.Height);
+    if (Columns.Length <= 0 || Rows.Length <= 0) return;
+    const bool Upward = &To == &From && Rows.To > Rows.From;  // a picture moved within itself must not overrun itself
+    for (std::int64_t Step = 0; Step < Rows.Length; ++Step) {
+        const std::int64_t Row = Upward ? Rows.Length - 1 - Step : Step;
+        std::memmove(To.Row(static_cast<int>(Rows.To + Row)) + Columns.To,
+                     From.Row(static_cast<int>(Rows.From + Row)) + Columns.From,
+                     static_cast<std::size_t>(Columns.Length) * sizeof(Color));
+    }
+    Destination.Drawn(static_cast<int>(Columns.To), static_cast<int>(Rows.To),
+                      static_cast<int>(Columns.To + Columns.Length - 1), static_cast<int>(Rows.To + Rows.Length - 1));
+}
+
+namespace {
+
+constexpr std::uint32_t Unity = 65536;  // the sum of the weights of one pixel
+
+// What one pixel of the destination takes from the source: neighbouring pixels from First on, each with its weight.
+struct Mix {
+    int First = 0;
+    std::vector<std::uint32_t> Weights;  // sum Unity; none: nothing of the source lies here
+};
+
+// Whole weights in the proportion of the given shares, with the exact sum, so that a flat colour stays flat.
+Mix MixOf(int First, const std::vector<double>& Shares) {
+    Mix Result{First, {}};
+    double Total = 0.0;
+    for (const double Share : Shares) Total += Share;
+    if (!(Total > 0.0)) return Result;
+    std::uint32_t Rest = Unity;
+    for (const double Share : Shares) {
+        const auto Weight = std::min(Rest, static_cast<std::uint32_t>(Share / Total * Unity + 0.5));
+        Result.Weights.push_back(Weight);
+        Rest -= Weight;
+    }
+    *std::max_element(Result.Weights.begin(), Result.Weights.end()) += Rest;
+    return Result;
+}
+
+// Shrinking: the pixel covers a stretch of the source, each source pixel counts by how much of it is covered.
+Mix Covered(double From, double To, int Lowest, int Beyond) {
+    const double First = std::max(std::floor(From), static_cast<double>(Lowest));
+    const double Last = std::min(std::ceil(To), static_cast<double>(Beyond));
+    std::vector<double> Shares;
+    for (double Place = First; Place < Last; Place += 1.0) {
+        Shares.push_back(std::max(0.0, std::min(To, Place + 1.0) - std::max(From, Place)));
+    }
+    return Shares.empty() ? Mix{} : MixOf(static_cast<int>(First), Shares);
+}
+
+// Enlarging: the pixel's centre lies between the centres of two source pixels, or beyond the outermost one.
+Mix Between(double Centre, int Lowest, int Beyond) {
+    const double Left = std::floor(Centre - 0.5);
+    if (Left < Lowest) return Left + 1.0 < Lowest || Lowest >= Beyond ? Mix{} : MixOf(Lowest, {1.0});
+    if (Left + 1.0 >= Beyond) return Left >= Beyond ? Mix{} : MixOf(static_cast<int>(Left), {1.0});
+    const double Right = Centre - 0.5 - Left;
+    return MixOf(static_cast<int>(Left), {1.0 - Right, Right});
+}
+
+// The mixes of those destination pixels along an axis that lie inside the destination, from pixel FirstInside on.
+struct StretchAxis {
+    int FirstInside;
+    std::vector<Mix> Mixes;
+
+    StretchAxis(int To, int Length, int ToSize, int From, int FromLength, int FromSize) : FirstInside(std::max(To, 0)) {
+        const std::int64_t End = std::min<std::int64_t>(static_cast<std::int64_t>(To) + Length, ToSize);
+        const int Lowest = std::max(From, 0);
+        const int Beyond =
+            static_cast<int>(std::min<std::int64_t>(static_cast<std::int64_t>(From) + FromLength, FromSize));
+        const auto SourcePlace = [=](double Step) { return From + Step * FromLength / Length; };
+        for (std::int64_t Place = FirstInside; Place < End; ++Place) {
+            const double Step = static_cast<double>(Place - To);
+            Mixes.push_back(FromLength >= Length ? Covered(SourcePlace(Step), SourcePlace(Step + 1.0), Lowest, Beyond)
+                                                 : Between(SourcePlace(Step + 0.5), Lowest, Beyond));
+        }
+    }
+};
+
+// A pixel between the two passes: red, green, blue times 256.
+struct WidePixel {
+    std::uint32_t Red = 0;
+    std::uint32_t Green = 0;
+    std::uint32_t Blue = 0;
+};
+
+std::vector<WidePixel> StretchedRow(const Color* Row, const StretchAxis& Columns) {
+    std::vector<WidePixel> Result;
+    Result.reserve(Columns.Mixes.size());
+    for (const Mix& Each : Columns.Mixes) {
+        WidePixel Sum;
+        const Color* From = Row + Each.First;
+        for (const std::uint32_t Weight : Each.Weights) {
+            const Color Value = *From++;
+            Sum.Red += Weight * (Value & 255U);
+            Sum.Green += Weight * (Value >> 8U & 255U);
+            Sum.Blue += Weight * (Value >> 16U & 255U);
+        }
+        Result.push_back({Sum.Red >> 8U, Sum.Green >> 8U, Sum.Blue >> 8U});
+    }
+    return Result;
+}
+
+}  // namespace
+
+void StretchBlt(PictureSurface& Destination, int X, int Y, int Width, int Height, PictureSurface& Source, int SourceX,
+                int SourceY, int SourceWidth, int SourceHeight) {
+    if (Width < 1 || Height < 1 || SourceWidth < 1 || SourceHeight < 1) return;
+    Bitmap& To = Destination.Canvas();
+    const Bitmap From = &Source == &Destination ? Source.Canvas() : Bitmap();
+    const Bitmap& FromPixels = &Source == &Destination ? From : Source.Canvas();
+    const StretchAxis Columns(X, Width, To.Width, SourceX, SourceWidth, FromPixels.Width);
+    const StretchAxis Rows(Y, Height, To.Height, SourceY, SourceHeight, FromPixels.Height);
+    std::vector<std::vector<WidePixel>> Stretched(static_cast<std::size_t>(FromPixels.Height));
+    for (std::size_t Row = 0; Row < Rows.Mixes.size(); ++Row) {
+        const Mix& Vertical = Rows.Mixes[Row];
+        if (Vertical.Weights.empty()) continue;
+        for (std::size_t Step = 0; Step < Vertical.Weights.size(); ++Step) {
+            const std::size_t Needed = static_cast<std::size_t>(Vertical.First) + Step;
+            if (Stretched[Needed].empty())
+                Stretched[Needed] = StretchedRow(FromPixels.Row(static_cast<int>(Needed)), Columns);
+        }
+        Color* Target = To.Row(Rows.FirstInside + static_cast<int>(Row)) + Columns.FirstInside;
+        for (std::size_t Column = 0; Column < Columns.Mixes.size(); ++Column) {
+            if (Columns.Mixes[Column].Weights.empty()) continue;
+            std::uint64_t Red = 1U << 23U;  // half a level, for rounding
+            std::uint64_t Green = Red;
+            std::uint64_t Blue = Red;
+            for (std::size_t Step = 0; Step < Vertical.Weights.size(); ++Step) {
+                const WidePixel& Pixel = Stretched[static_cast<std::size_t>(Vertical.First) + Step][Column];
+                const std::uint64_t Weight = Vertical.Weights[Step];
+                Red += Weight * Pixel.Red;
+                Green += Weight * Pixel.Green;
+                Blue += Weight * Pixel.Blue;
+            }
+            Target[Column] = static_cast<Color>(Red >> 24U | (Green >> 24U) << 8U | (Blue >> 24U) << 16U);
+        }
+    }
+    if (!Columns.Mixes.empty() && !Rows.Mixes.empty()) {
+        Destination.Drawn(Columns.FirstInside, Rows.FirstInside,
+                          Columns.FirstInside + static_cast<int>(Columns.Mixes.size()) - 1,
+                          Rows.FirstInside + static_cast<int>(Rows.Mixes.size()) - 1);
+    }
+}
+
+}  // namespace gloamtide

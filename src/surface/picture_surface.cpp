@@ -1,0 +1,245 @@
+#include "surface/picture_surface.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+
+#include "platform/host.h"
+#include "state/numbers.h"
+
+namespace gloamtide {
+
+Color QBColor(int Index) {
+    static constexpr std::array<Color, 16> Palette = {
+        RGB(0, 0, 0),     RGB(0, 0, 128),     RGB(0, 128, 0),     RGB(0, 128, 128),   RGB(128, 0, 0), RGB(128, 0, 128),
+        RGB(128, 128, 0), RGB(192, 192, 192), RGB(128, 128, 128), RGB(0, 0, 255),     RGB(0, 255, 0), RGB(0, 255, 255),
+        RGB(255, 0, 0),   RGB(255, 0, 255),   RGB(255, 255, 0),   RGB(255, 255, 255),
+    };
+    return Index >= 0 && Index < 16 ? Palette[static_cast<std::size_t>(Index)] : RGB(0, 0, 0);
+}
+
+// A position in whole pixels, at most FarthestPixel from the origin; perhaps outside the bitmap.
+struct PictureSurface::PixelPoint {
+    int X = 0;
+    int Y = 0;
+};
+
+namespace {
+
+constexpr double FarthestPixel = 536870912.0;  // 2 to the 29th: products of two distances fit 64 bits
+constexpr int DotPeriod = 3;                   // pixels from one dot of a dotted line to the next
+constexpr int WidestPen = 32;                  // pixels
+
+int PixelOf(double Place) { return ToInt32(std::floor(std::clamp(Place, -FarthestPixel, FarthestPixel))); }
+
+}  // namespace
+
+std::optional<PictureSurface::PixelPoint> PictureSurface::PixelAt(double X, double Y) const {
+    const double PixelX = ScaleX.ToPixels(X);
+    const double PixelY = ScaleY.ToPixels(Y);
+    if (!std::isfinite(PixelX) || !std::isfinite(PixelY)) return std::nullopt;
+    return PixelPoint{PixelOf(PixelX), PixelOf(PixelY)};
+}
+
+void PictureSurface::FillPixels(int FromX, int FromY, int ToX, int ToY, Color Filling) {
+    Bitmap& Target = Canvas();
+    FromX = std::max(FromX, 0);
+    FromY = std::max(FromY, 0);
+    ToX = std::min(ToX, Target.Width - 1);
+    ToY = std::min(ToY, Target.Height - 1);
+    if (FromX > ToX || FromY > ToY) return;
+    for (int Y = FromY; Y <= ToY; ++Y) std::fill(Target.Row(Y) + FromX, Target.Row(Y) + ToX + 1, Filling);
+    Drawn(FromX, FromY, ToX, ToY);
+}
+
+void PictureSurface::Dot(Bitmap& Target, int X, int Y, Color DotColor) {
+    if (DrawWidth > 1) {
+        const int Pen = std::min(DrawWidth, WidestPen);
+        const int FromX = X - (Pen - 1) / 2;
+        const int FromY = Y - (Pen - 1) / 2;
+        FillPixels(FromX, FromY, FromX + Pen - 1, FromY + Pen - 1, DotColor);
+    } else if (X >= 0 && Y >= 0 && X < Target.Width && Y < Target.Height) {
+        Target.Row(Y)[X] = DotColor;
+        Drawn(X, Y, X, Y);
+    }
+}
+
+// Goes along the longer axis, only where the bitmap is, and reckons the other coordinate afresh at each pixel: so a
+// line looks the same however much of it is clipped, and in whichever direction it is drawn.
+void PictureSurface::Stroke(PixelPoint From, PixelPoint To, Color LineColor) {
+    Bitmap& Target = Canvas();
+    const bool Steep = std::abs(To.Y - From.Y) > std::abs(To.X - From.X);
+    if (Steep ? From.Y > To.Y : From.X > To.X) std::swap(From, To);
+    const std::int64_t Start = Steep ? From.Y : From.X;
+    const std::int64_t Length = (Steep ? To.Y : To.X) - Start;
+    const std::int64_t OtherStart = Steep ? From.X : From.Y;
+    const std::int64_t Rise = (Steep ? To.X : To.Y) - OtherStart;
+    const std::int64_t Edge = Steep ? Target.Height : Target.Width;
+    const std::int64_t First = std::max<std::int64_t>(0, -WidestPen - Start);
+    const std::int64_t Last = std::min(Length, Edge - 1 + WidestPen - Start);
+    // Other is the nearest whole number, halves upward, to OtherStart + Step * Rise / Length; Rest what is left over.
+    const std::int64_t Divisor = 2 * std::max<std::int64_t>(Length, 1);
+    const std::int64_t Doubled = 2 * First * Rise + Length;
+    std::int64_t Other = OtherStart + Doubled / Divisor - (Doubled % Divisor < 0 ? 1 : 0);
+    std::int64_t Rest = Doubled - (Other - OtherStart) * Divisor - 2 * Rise;
+    for (std::int64_t Step = First; Step <= Last; ++Step) {
+        Rest += 2 * Rise;
+        if (Rest >= Divisor) {
+            Rest -= Divisor;
+            ++Other;
+        } else if (Rest < 0) {
+            Rest += Divisor;
+            --Other;
+        }
+        if (DrawStyle == DrawStyles::Dotted && Step % DotPeriod != 0) continue;
+        const int Along = static_cast<int>(Start + Step);
+        const int Across = static_cast<int>(Other);
+        Dot(Target, Steep ? Across : Along, Steep ? Along : Across, LineColor);
+    }
+}
+
+void PictureSurface::Line(double X1, double Y1, double X2, double Y2, Color LineColor, LineForm Form) {
+    CurrentX = X2;
+    CurrentY = Y2;
+    const auto From = PixelAt(X1, Y1);
+    const auto To = PixelAt(X2, Y2);
+    if (!From || !To) return;
+    switch (Form) {
+        case LineForm::Plain:
+            Stroke(*From, *To, LineColor);
+            break;
+        case LineForm::Box:
+            Stroke(*From, {To->X, From->Y}, LineColor);
+            Stroke({To->X, From->Y}, *To, LineColor);
+            Stroke(*To, {From->X, To->Y}, LineColor);
+            Stroke({From->X, To->Y}, *From, LineColor);
+            break;
+        case LineForm::BoxFilled:
+            FillPixels(std::min(From->X, To->X), std::min(From->Y, To->Y), std::max(From->X, To->X),
+                       std::max(From->Y, To->Y), LineColor);
+            break;
+    }
+}
+
+void PictureSurface::LineTo(double X, double Y, Color LineColor) { Line(CurrentX, CurrentY, X, Y, LineColor); }
+
+void PictureSurface::PSet(double X, double Y, Color DotColor) {
+    CurrentX = X;
+    CurrentY = Y;
+    if (const auto Place = PixelAt(X, Y)) Dot(Canvas(), Place->X, Place->Y, DotColor);
+}
+
+void PictureSurface::PSetStep(double StepX, double StepY, Color DotColor) {
+    PSet(CurrentX + StepX, CurrentY + StepY, DotColor);
+}
+
+// The shape is all pixels whose distances from the centre pixel obey x*x / (a*a + a) + y*y / (b*b + b) < 1, half-axes a
+// and b in pixels: round, without single pixels sticking out, and symmetrical about the centre pixel.
+void PictureSurface::Ellipse(double X, double Y, double Radius, double Aspect, Color LineColor, bool Filled,
+                             const std::function<bool(int, int)>& OnArc) {
+    CurrentX = X;
+    CurrentY = Y;
+    const auto Centre = PixelAt(X, Y);
+    const double Longer = ScaleX.LengthToPixels(Radius);
+    const double A = std::min(Aspect > 1.0 ? Longer / Aspect : Longer, FarthestPixel);
+    const double B = std::min(Aspect < 1.0 ? Longer * Aspect : Longer, FarthestPixel);
+    if (!Centre || !std::isfinite(Longer) || !(Aspect > 0.0)) return;
+    if (Longer < 1.0) {
+        if (OnArc(0, 0)) FillPixels(Centre->X, Centre->Y, Centre->X, Centre->Y, LineColor);
+        return;
+    }
+    const auto HalfWidth = [&](int Row) {  // the largest x of the shape in a row above or below the centre, or -1
+        const double Rest = 1.0 - static_cast<double>(Row) * Row / (B * B + B);
+        return Rest > 0.0 ? ToInt32(std::ceil(std::sqrt(Rest * (A * A + A)))) - 1 : -1;
+    };
+    const Bitmap& Target = Canvas();
+    const int Reach = ToInt32(std::floor(std::sqrt(B * B + B)));
+    const int FirstRow = std::max(-Reach, -Centre->Y);
+    const int LastRow = std::min(Reach, Target.Height - 1 - Centre->Y);
+    for (int Row = FirstRow; Row <= LastRow; ++Row) {
+        const int RowY = Centre->Y + Row;
+        const auto Outline = [&](int FromX, int ToX) {
+            for (int Each = std::max(FromX, 0); Each <= std::min(ToX, Target.Width - 1); ++Each) {
+                if (OnArc(Each - Centre->X, Row)) FillPixels(Each, RowY, Each, RowY, LineColor);
+            }
+        };
+        const int Outer = HalfWidth(std::abs(Row));
+        if (Outer < 0) continue;
+        const int Inner = std::min(HalfWidth(std::abs(Row) + 1) + 1, Outer);  // where the row's outline begins
+        if (Filled) FillPixels(Centre->X - Outer, RowY, Centre->X + Outer, RowY, FillColor);
+        Outline(Centre->X - Outer, Centre->X - Inner);
+        Outline(Centre->X + Inner, Centre->X + Outer);
+    }
+}
+
+void PictureSurface::Circle(double X, double Y, double Radius, Color LineColor, double Aspect) {
+    Ellipse(X, Y, Radius, Aspect, LineColor, FillStyle == FillStyles::Solid, [](int, int) { return true; });
+}
+
+void PictureSurface::Arc(double X, double Y, double Radius, Color LineColor, double Start, double End) {
+    Ellipse(X, Y, Radius, 1.0, LineColor, false, [=](int Column, int Row) {
+        double Angle = std::atan2(-Row, Column);
+        if (Angle < 0.0) Angle += 2.0 * std::acos(-1.0);
+        return Start <= End ? Start <= Angle && Angle <= End : Start <= Angle || Angle <= End;
+    });
+}
+
+long PictureSurface::Point(double X, double Y) const {
+    const auto Place = PixelAt(X, Y);
+    const bool Inside = Place && Place->X >= 0 && Place->Y >= 0 && Place->X < std::lround(InnerWidth()) &&
+                        Place->Y < std::lround(InnerHeight());
+    if (!Inside) return -1;
+    const bool Blank = Place->X >= Picture.Width || Place->Y >= Picture.Height;
+    return static_cast<long>(Blank ? BackColor.Get() : Picture.Row(Place->Y)[Place->X]);
+}
+
+namespace {
+
+Color Blend(Color Under, Color Over, int Coverage) {
+    const auto Mix = [Coverage](int Below, int Above) {
+        return (Below * (255 - Coverage) + Above * Coverage + 127) / 255;
+    };
+    return RGB(Mix(RedOf(Under), RedOf(Over)), Mix(GreenOf(Under), GreenOf(Over)), Mix(BlueOf(Under), BlueOf(Over)));
+}
+
+}  // namespace
+
+void PictureSurface::Print(const std::string& Text) {
+    const GlyphMask Mask = host->RenderText(CurrentFont(), Text);
+    if (const auto Place = PixelAt(CurrentX, CurrentY)) {
+        Bitmap& Target = Canvas();
+        const int FromX = std::max(0, Place->X);
+        const int FromY = std::max(0, Place->Y);
+        const int EndX = std::min(Target.Width, Place->X + Mask.Width);
+        const int EndY = std::min(Target.Height, Place->Y + Mask.Height);
+        for (int Y = FromY; Y < EndY; ++Y) {
+            const std::uint8_t* Coverage =
+                Mask.Coverage.data() + static_cast<std::ptrdiff_t>(Y - Place->Y) * Mask.Width;
+            for (int X = FromX; X < EndX; ++X) {
+                Target.Row(Y)[X] = Blend(Target.Row(Y)[X], ForeColor, Coverage[X - Place->X]);
+            }
+        }
+        if (FromX < EndX && FromY < EndY) Drawn(FromX, FromY, EndX - 1, EndY - 1);
+    }
+    CurrentX = ScaleX.Origin;
+    CurrentY += Mask.Height * ScaleY.Units / ScaleY.Pixels;
+}
+
+double PictureSurface::TextWidth(const std::string& Text) const {
+    return ScaleX.LengthToUnits(host->RenderText(CurrentFont(), Text).Width);
+}
+
+double PictureSurface::TextHeight(const std::string& Text) const {
+    return ScaleY.LengthToUnits(host->RenderText(CurrentFont(), Text).Height);
+}
+
+void PictureSurface::SetPicture(const Bitmap& Image) {
+    Bitmap& Target = Canvas();
+    const int Columns = std::min(Target.Width, Image.Width);
+    const int Rows = std::min(Target.Height, Image.Height);
+    for (int Y = 0; Y < Rows; ++Y) std::copy_n(Image.Row(Y), Columns, Target.Row(Y));
+    if (Columns > 0 && Rows > 0) Drawn(0, 0, Columns - 1, Rows - 1);
+}
+
+}  // namespace gloamtide
