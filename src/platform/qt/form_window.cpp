@@ -6,9 +6,9 @@
 #include <QPushButton>
 #include <QScrollArea>
 
+#include "platform/controls.h"
 #include "platform/qt/control_watcher.h"
 #include "platform/qt/menus.h"
-#include "platform/qt/qt_host.h"
 #include "platform/qt/widgets.h"
 
 namespace gloamtide {
@@ -39,8 +39,8 @@ private:
     FormWindow& Window;
 };
 
-FormWindow::FormWindow(Form& TheForm, QtHost& TheHost, TickGate& Gate)
-    : Record(TheForm), Desktop(TheHost), Board(new QWidget) {
+FormWindow::FormWindow(Form& TheForm, std::function<void(QWidget&)> TheFillScreen, TickGate& Gate)
+    : Record(TheForm), FillScreen(std::move(TheFillScreen)), Board(new QWidget) {
     setObjectName(QString::fromStdString(Record.Name));
     if (Record.Borderless) setWindowFlag(Qt::FramelessWindowHint);
     auto* Scroller = new QScrollArea(this);
@@ -72,7 +72,7 @@ void FormWindow::Show() {
     setAccessibleName(windowTitle());
     if (isHidden() != Record.Visible) return;
     if (Record.Visible) {
-        Desktop.FillScreen(*this);
+        FillScreen(*this);
         raise();
         activateWindow();
         if (FindButton(Record, &CommandButton::Default) == nullptr) {

@@ -2,18 +2,18 @@
 #pragma once
 
 #include <QMainWindow>
+#include <functional>
 
 #include "platform/qt/ticks.h"
 #include "platform/qt/widgets.h"
 
 namespace gloamtide {
 
-class QtHost;
-
 // A main window with the form's menus and controls. Where the screen is smaller than what they take up, it scrolls.
 class FormWindow : public QMainWindow {
 public:
-    FormWindow(Form& TheForm, QtHost& TheHost, TickGate& Gate);
+    // TheFillScreen shows the window all over the screen.
+    FormWindow(Form& TheForm, std::function<void(QWidget&)> TheFillScreen, TickGate& Gate);
 
     // Parts from the records: nothing that they do shows any more, and no timer ticks.
     void LetGo();
@@ -30,7 +30,7 @@ private:
     void FitBoard();
 
     Form& Record;
-    QtHost& Desktop;
+    std::function<void(QWidget&)> FillScreen;
     QWidget* Board;  // holds the controls
     Watchers Watching;
 };

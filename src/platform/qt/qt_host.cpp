@@ -108,7 +108,10 @@ void QtHost::ShowHelp(const std::string& FileName) {
 
 GlyphMask QtHost::RenderText(const Font& TheFont, const std::string& Text) { return RenderMask(TheFont, Text); }
 
-void QtHost::FormLoaded(Form& Which) { Windows[&Which] = new FormWindow(Which, *this, Gate); }
+void QtHost::FormLoaded(Form& Which) {
+    Windows[&Which] = new FormWindow(
+        Which, [this](QWidget& Window) { FillScreen(Window); }, Gate);
+}
 
 // The window goes later: an event of its own may be under way.
 void QtHost::FormUnloaded(Form& Which) {
