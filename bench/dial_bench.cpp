@@ -3,7 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/program.h"
-#include "clock/clock.h"
+#include "clock/recomputation.h"
 #include "state/state.h"
 #include "sundial/dial.h"
 

@@ -5,9 +5,9 @@
 #include <cstring>
 
 #include "bench/program.h"
-#include "clock/clock.h"
 #include "forms/form_pictures.h"
 #include "map/day_night.h"
+#include "map/stored_pictures.h"
 #include "state/state.h"
 
 namespace gloamtide {

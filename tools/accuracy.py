@@ -27,7 +27,8 @@ random = np.random.default_rng(1)
 
 
 def compile_dump(folder):
-    sources = [ROOT / "tools/accuracy_dump.cpp", *sorted(ROOT.glob("src/astro/*.cpp"))]
+    sources = [ROOT / "tools/accuracy_dump.cpp", *sorted(ROOT.glob("src/astro/*.cpp")),
+               *sorted(ROOT.glob("src/state/*.cpp"))]
     subprocess.run(["c++", "-std=c++20", "-O2", "-ffp-contract=off", "-I", ROOT / "src", "-I", ROOT, "-o", f"{folder}/dump", *sources],
                    check=True)
     return f"{folder}/dump"

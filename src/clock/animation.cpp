@@ -6,7 +6,7 @@
 #include "astro/solar.h"
 #include "astro/sunrise.h"
 #include "clock/clock.h"
-#include "dialogs/animation_settings.h"
+#include "forms/form_animation.h"
 #include "forms/form_gt_main.h"
 #include "map/day_night.h"
 #include "map/graticule.h"
@@ -47,14 +47,10 @@ void FreezeAtLimit() {
 
 void ConnectAnimation() {
     MainForm& Main = FormGTMain;
-    Main.MenuAnimationSubOptions.Click = MenuAnimationSubOptions_Click;
     Main.MenuAnimationSubStart.Click = MenuAnimationSubStart_Click;
     Main.MenuAnimationSubStop.Click = MenuAnimationSubStop_Click;
     Main.CmdAnimStop.Click = MenuAnimationSubStop_Click;
     Main.Timer3.Tick = FormGTMain_Timer3_Timer;
-    FormAnimation.OnLoad = FormAnimation_Form_Load;
-    FormAnimation.CmdAnimOptionsOK.Click = CmdAnimOptionsOK_Click;
-    FormAnimation.CmdAnimOptionsCancel.Click = CmdAnimOptionsCancel_Click;
 }
 
 void MenuAnimationSubStart_Click() {

@@ -3,7 +3,7 @@
 
 namespace gloamtide {
 
-// Joins the animation's commands, its timer and its dialog with their handlers.
+// Joins the animation's commands and its timer with their handlers.
 void ConnectAnimation();
 
 // Starts the animation in the direction that the settings dialog shows; the first step comes a second later.

@@ -2,14 +2,11 @@
 
 #include "astro/calendar.h"
 #include "astro/lunar.h"
-#include "astro/seasons.h"
 #include "astro/solar.h"
-#include "astro/sunrise.h"
 #include "forms/form_gt_main.h"
 #include "map/day_night.h"
 #include "map/graticule.h"
 #include "map/stored_pictures.h"
-#include "map/zone_lines.h"
 #include "panel/information_panel.h"
 #include "platform/host.h"
 #include "state/state.h"
@@ -55,15 +52,6 @@ void UpdateDateFields() {
     state.GreenwichSecond = state.WorkSecond;
 }
 
-void RecomputeAlmanac() {
-    SolarPosition();
-    LunarPosition();
-    SunriseSunset();
-    UpdateDateFields();
-    SeasonCountdown();
-    UpdateInformationPanel();
-}
-
 void ShowYearLimitMessage() {
     host->ShowMessage({"Gloamtide Year Limit Reached",
                        "The Gloamtide year has passed out of its range of -4000 to +4000. Please use the Configure or "
@@ -91,12 +79,6 @@ void FormGTMain_Timer2_Timer() {
     SolarPosition();
     LunarPosition();
     RedrawMap();
-}
-
-void RebuildMapPictures() {
-    ResetMapPictures();
-    DrawCityMarks();
-    DrawTimeZoneLines();
 }
 
 void FormGTMain_Timer4_Timer() {

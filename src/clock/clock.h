@@ -16,16 +16,6 @@ void ReadSystemClock();
 //   Sets:   LocalYear to LocalSecond, GreenwichYear to GreenwichSecond; the work fields of the calendar
 void UpdateDateFields();
 
-// Brings the whole almanac up to date, after start-up, after a configuration was opened, after the Configure dialog.
-// The map is redrawn by the caller, when its window stands.
-//   Reads:  CurrentJD, the location and its clock
-//   Sets:   all that the routines of astro/ set, the date fields, the captions of the panel
-void RecomputeAlmanac();
-
-// Makes the cached pictures anew, with their city marks and zone lines, after a change of the map type.
-//   Reads:  MapType
-void RebuildMapPictures();
-
 // Tells the user that the year has left its range.
 void ShowYearLimitMessage();
 

@@ -1,7 +1,9 @@
-#include "dialogs/small_dialogs.h"
+#include "dialogs/about_and_splash.h"
 
 #include "assets/assets.h"
+#include "forms/form_about.h"
 #include "forms/form_gt_main.h"
+#include "forms/form_splash.h"
 #include "forms/layout.h"
 #include "map/day_night.h"
 #include "surface/stored_bitmap.h"
@@ -18,35 +20,16 @@ void ShowImage(PictureSurface& Surface, AssetBytes Bytes) {
 
 }  // namespace
 
-SplashForm::SplashForm() : Form("FormSplash", 9345.0, 3870.0, true) {
-    Caption = "Welcome to Gloamtide";
-    ImageSplash.Description = "Gloamtide";
-    LabelSplash.Caption = "Program loading ----- please wait";
-    LabelSplash.ForeColor = RGB(255, 255, 255);
-    LabelSplash.FontSize = 12.0;
-    LabelSplash.Size(5760.0, 360.0);
-}
-
 void PlaceSplash() {
     ShowImage(FormSplash.ImageSplash, SplashBmp());
     PlaceOnForm(FormSplash, FormSplash.ImageSplash, {{80, 240}, {200, 400}, {360, 600}, {560, 1100}});
     PlaceOnForm(FormSplash, FormSplash.LabelSplash, {{400, 1300}, {520, 1700}, {700, 2200}, {900, 3000}});
 }
 
-AboutForm::AboutForm() : Form("FormAbout", 6810.0, 5220.0) {
-    Caption = "About Gloamtide";
-    FrameAbout.Size(4500.0, 2700.0);
-    Image1.Description = "Gloamtide's icon";
-    LabelAbout.Caption = "Gloamtide Version 4.01";
-    LabelAbout.FontSize = 12.0;
-    LabelAbout.TextAlignment = Alignment::Center;
-    LabelAbout.Move(150.0, 1440.0);
-    LabelAbout.Size(4200.0, 360.0);
-    CmdAboutOK.Caption = "OK";
-    CmdAboutOK.Default = true;
-    CmdAboutOK.Cancel = true;
-    CmdAboutOK.Move(1650.0, 2040.0);
-    CmdAboutOK.Size(1200.0, 420.0);
+void ConnectAbout() {
+    FormGTMain.MenuHelpSubAbout.Click = MenuHelpSubAbout_Click;
+    FormAbout.OnLoad = FormAbout_Form_Load;
+    FormAbout.CmdAboutOK.Click = CmdAboutOK_Click;
 }
 
 void FormAbout_Form_Load() {

@@ -4,7 +4,8 @@
 #include <cmath>
 
 #include "astro/calendar.h"
-#include "clock/clock.h"
+#include "clock/recomputation.h"
+#include "forms/form_configure.h"
 #include "forms/form_gt_main.h"
 #include "forms/layout.h"
 #include "forms/messages.h"
@@ -16,6 +17,12 @@
 
 namespace gloamtide {
 namespace {
+
+// Fills a list anew with the numbers from First to Last, each after a blank.
+void FillNumbers(ComboBox& List, int First, int Last) {
+    List.Clear();
+    for (int Number = First; Number <= Last; ++Number) List.AddItem(std::string(" ").append(std::to_string(Number)));
+}
 
 void SelectNearest(ComboBox& List, int Position) { List.ListIndex = std::clamp(Position, 0, List.ListCount() - 1); }
 
@@ -99,9 +106,19 @@ void ConnectConfigure() {
     F.CmdConfigureCancel.Click = CmdConfigureCancel_Click;
 }
 
-void FillNumbers(ComboBox& List, int First, int Last) {
-    List.Clear();
-    for (int Number = First; Number <= Last; ++Number) List.AddItem(std::string(" ").append(std::to_string(Number)));
+void FillConfigureLists() {
+    ConfigureForm& F = FormConfigure;
+    for (const char* Month : {"January", "February", "March", "April", "May", "June", "July", "August", "September",
+                              "October", "November", "December"}) {
+        F.ComboSelMonth.AddItem(Month);
+    }
+    FillNumbers(F.ComboSelDay, 1, 31);
+    FillNumbers(F.ComboSelHour, 0, 23);
+    FillNumbers(F.ComboSelMinute, 0, 59);
+    FillNumbers(F.ComboSetLatDeg, 0, 79);
+    FillNumbers(F.ComboSetLongDeg, 0, 179);
+    FillNumbers(F.ComboSetLatMin, 0, 59);
+    FillNumbers(F.ComboSetLongMin, 0, 59);
 }
 
 void FillLatitudeDegrees() {

@@ -1,6 +1,6 @@
 // How the Configure dialog is laid out: the place on the left, date and time on the right, the zone under both.
 
-#include "dialogs/configure.h"
+#include "forms/form_configure.h"
 
 namespace gloamtide {
 namespace {
@@ -63,6 +63,8 @@ void PlaceCoordinate(const CoordinateControls& C, const char* Caption, const cha
 }
 
 }  // namespace
+
+ConfigureForm FormConfigure;
 
 ConfigureForm::ConfigureForm() : Form("FormConfigure", 9285.0, 6645.0) {
     Caption = "Gloamtide - Configure";

@@ -4,6 +4,8 @@
 
 namespace gloamtide {
 
+MainForm FormGTMain;
+
 MainForm::MainForm() : Form("FormGTMain", 0.0, 0.0) {
     ScalePixels();
     PictureGTContainer.ScalePixels();

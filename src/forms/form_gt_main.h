@@ -1,6 +1,8 @@
 // The main window: menu bar, map with its labels, the almanac's panels under it, and the timers.
 #pragma once
 
+#include "platform/controls.h"
+#include "platform/form.h"
 #include "surface/picture_surface.h"
 
 namespace gloamtide {
@@ -122,6 +124,6 @@ private:
     void DesignSundial();
 };
 
-inline MainForm FormGTMain;
+extern MainForm FormGTMain;
 
 }  // namespace gloamtide

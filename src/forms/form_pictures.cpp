@@ -2,6 +2,8 @@
 
 namespace gloamtide {
 
+PicturesForm FormPictures;
+
 PicturesForm::PicturesForm() : Form("FormPictures", 0.0, 0.0) {
     ScalePixels();
     for (PictureSurface* Each : {&PictureDayOrig, &PictureNightOrig, &PicturePolitDayOrig, &PicturePolitNightOrig}) {

@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "platform/form.h"
 #include "surface/picture_surface.h"
 
 namespace gloamtide {
@@ -35,6 +36,6 @@ struct PicturesForm : Form {
     std::array<PictureSurface*, 10> WorkPictures();
 };
 
-inline PicturesForm FormPictures;
+extern PicturesForm FormPictures;
 
 }  // namespace gloamtide

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "platform/controls.h"
+#include "platform/form.h"
 
 namespace gloamtide {
 

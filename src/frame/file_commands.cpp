@@ -1,11 +1,13 @@
 #include "frame/file_commands.h"
 
 #include "clock/clock.h"
+#include "clock/recomputation.h"
 #include "dialogs/animation_settings.h"
 #include "forms/form_gt_main.h"
 #include "forms/messages.h"
 #include "frame/menus.h"
 #include "map/day_night.h"
+#include "map/stored_pictures.h"
 #include "places/zones.h"
 #include "state/state.h"
 #include "storage/configuration.h"

@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "dialogs/small_dialogs.h"
 #include "forms/form_gt_main.h"
 #include "map/day_night.h"
 #include "platform/host.h"
@@ -59,7 +58,6 @@ void ConnectMenus() {
     FormGTMain.MenuMapSubNatural.Click = MenuMapSubNatural_Click;
     FormGTMain.MenuMapSubPolitical.Click = MenuMapSubPolitical_Click;
     FormGTMain.MenuHelpSubContents.Click = MenuHelpSubContents_Click;
-    FormGTMain.MenuHelpSubAbout.Click = MenuHelpSubAbout_Click;
 }
 
 void ShowChecks() {

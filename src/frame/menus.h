@@ -3,7 +3,7 @@
 
 namespace gloamtide {
 
-// Joins the items of the menus Show/Hide, Map and Help with their commands.
+// Joins the items of the menus Show/Hide and Map, and the help, with their commands.
 void ConnectMenus();
 
 // Gives each Show/Hide item and map type item a check exactly where its flag says so, and the labels on the map their

@@ -4,12 +4,16 @@
 
 #include "clock/animation.h"
 #include "clock/clock.h"
+#include "clock/recomputation.h"
+#include "dialogs/about_and_splash.h"
 #include "dialogs/animation_settings.h"
 #include "dialogs/configure.h"
-#include "dialogs/small_dialogs.h"
 #include "dialogs/sundial_options.h"
+#include "forms/form_animation.h"
+#include "forms/form_configure.h"
 #include "forms/form_gt_main.h"
 #include "forms/form_pictures.h"
+#include "forms/form_splash.h"
 #include "forms/layout.h"
 #include "forms/messages.h"
 #include "frame/file_commands.h"
@@ -40,16 +44,13 @@ void ConnectHandlers() {
     FormGTMain.MenuFileSubSaveAs.Click = MenuFileSubSaveAs_Click;
     FormGTMain.MenuFileSubQuit.Click = ExitProgram;
     FormGTMain.MenuQuit.Click = ExitProgram;
-    FormGTMain.CommandSDOptions.Click = CommandSDOptions_Click;
-    FormSundialOptions.OnLoad = FormSundialOptions_Form_Load;
-    FormSundialOptions.CommandSDOptionsOK.Click = CommandSDOptionsOK_Click;
-    FormSundialOptions.CommandSDOptionsCancel.Click = CommandSDOptionsCancel_Click;
-    FormAbout.OnLoad = FormAbout_Form_Load;
-    FormAbout.CmdAboutOK.Click = CmdAboutOK_Click;
     FormGTMain.PictureGT.MouseMove = FormGTMain_PictureGT_MouseMove;
     ConnectMenus();
     ConnectConfigure();
     ConnectAnimation();
+    ConnectAnimationSettings();
+    ConnectSundialOptions();
+    ConnectAbout();
     FormGTMain.Timer1.Tick = FormGTMain_Timer1_Timer;
     FormGTMain.Timer2.Tick = FormGTMain_Timer2_Timer;
     FormGTMain.Timer4.Tick = FormGTMain_Timer4_Timer;
@@ -134,6 +135,7 @@ void FormGTMain_Form_Load() {
 
     // The tables, and what is drawn once into the cached pictures.
     BuildZoneTable();
+    FillConfigureLists();
     BuildCityTable();
     LoadMonthNames();
     LoadMoonNames();

@@ -3,6 +3,8 @@
 #include "assets/assets.h"
 #include "forms/form_pictures.h"
 #include "map/geometry.h"
+#include "map/graticule.h"
+#include "map/zone_lines.h"
 #include "surface/stored_bitmap.h"
 
 namespace gloamtide {
@@ -37,6 +39,12 @@ void ResetMapPictures() {
     for (PictureSurface* To : {&F.PictureCitiesDay, &F.PictureTZDay, &F.PictureTZCitiesDay, &F.PictureDaySplit}) {
         Copy(*To, F.PictureDay);
     }
+}
+
+void RebuildMapPictures() {
+    ResetMapPictures();
+    DrawCityMarks();
+    DrawTimeZoneLines();
 }
 
 }  // namespace gloamtide

@@ -11,4 +11,8 @@ void FormPictures_Form_Load();
 //   Sets:   MapTypeShown; the ten work pictures of FormPictures
 void ResetMapPictures();
 
+// Makes the cached pictures anew, with their city marks and zone lines, after a change of the map type.
+//   Reads:  MapType
+void RebuildMapPictures();
+
 }  // namespace gloamtide

@@ -3,7 +3,7 @@
 #include <array>
 #include <iterator>
 
-#include "dialogs/configure.h"
+#include "forms/form_configure.h"
 #include "state/state.h"
 
 namespace gloamtide {

@@ -5,7 +5,7 @@
 #include <iterator>
 #include <string>
 
-#include "dialogs/configure.h"
+#include "forms/form_configure.h"
 #include "forms/form_pictures.h"
 #include "state/numbers.h"
 #include "state/state.h"
@@ -95,17 +95,6 @@ void BuildZoneTable() {
         state.ZoneShortName[Row] = Zones[Row].ShortName;
     }
     SelectZoneRow();
-    for (const char* Month : {"January", "February", "March", "April", "May", "June", "July", "August", "September",
-                              "October", "November", "December"}) {
-        F.ComboSelMonth.AddItem(Month);
-    }
-    FillNumbers(F.ComboSelDay, 1, 31);
-    FillNumbers(F.ComboSelHour, 0, 23);
-    FillNumbers(F.ComboSelMinute, 0, 59);
-    FillNumbers(F.ComboSetLatDeg, 0, 79);
-    FillNumbers(F.ComboSetLongDeg, 0, 179);
-    FillNumbers(F.ComboSetLatMin, 0, 59);
-    FillNumbers(F.ComboSetLongMin, 0, 59);
 }
 
 void SelectZoneRow() {

@@ -3,9 +3,8 @@
 
 namespace gloamtide {
 
-// Fills the zone table and the fixed lists of the Configure dialog, then selects the row in force.
-//   Sets:  ZoneHoursTable, ZoneShortName; the lists of zones, months, days, hours, minutes, degrees; what SelectZoneRow
-//          sets
+// Fills the zone table and the list of the Configure dialog, then selects the row in force.
+//   Sets:  ZoneHoursTable, ZoneShortName; ComboSelTZ; what SelectZoneRow sets
 void BuildZoneTable();
 
 // Selects the row whose hours are exactly ZoneHours. Where there is none, which takes a configuration made by hand,

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/controls.h"
 #include "platform/date_time.h"
+#include "platform/form.h"
 
 namespace gloamtide {
 

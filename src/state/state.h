@@ -30,6 +30,12 @@ struct MapPoint {
 };
 
 struct SharedState {
+    // Defined in one file, since each is long.
+    SharedState();
+    SharedState(const SharedState&);
+    SharedState& operator=(const SharedState&);
+    ~SharedState();
+
     // clock/clock: the instant shown
     double CurrentJD = 0.0;          // days, Julian date at Greenwich; every date on the screen follows from it
     double SystemJD = 0.0;           // days, the system clock at its last reading, whole seconds
@@ -231,6 +237,6 @@ struct SharedState {
     Boolean ConfigureArmed = False;  // False while the program fills the dialog: its location handlers do nothing
 };
 
-inline SharedState state;
+extern SharedState state;
 
 }  // namespace gloamtide

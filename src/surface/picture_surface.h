@@ -9,7 +9,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/controls.h"
+#include "platform/picture_box.h"
 
 namespace gloamtide {
 

@@ -13,6 +13,7 @@
 #include <QScrollBar>
 #include <algorithm>
 
+#include "dialogs/about_and_splash.h"
 #include "frame/startup.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/qt_host.h"

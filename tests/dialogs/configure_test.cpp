@@ -1,6 +1,7 @@
 #include "dialogs/configure.h"
 
 #include "clock/clock.h"
+#include "clock/recomputation.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "clock/clock.h"
+#include "clock/recomputation.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {

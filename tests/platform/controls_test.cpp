@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/combo_box.h"
 #include "platform/headless/headless_host.h"
+#include "platform/picture_box.h"
 
 namespace gloamtide {
 namespace {

@@ -4,7 +4,7 @@
 #include <QComboBox>
 #include <QStringListModel>
 
-#include "platform/controls.h"
+#include "platform/combo_box.h"
 
 namespace gloamtide {
 

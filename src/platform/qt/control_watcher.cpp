@@ -3,6 +3,8 @@
 #include <QLabel>
 #include <algorithm>
 
+#include "platform/controls.h"
+#include "platform/picture_box.h"
 #include "platform/qt/fonts.h"
 
 namespace gloamtide {

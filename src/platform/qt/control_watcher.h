@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "platform/controls.h"
+#include "platform/control.h"
 
 namespace gloamtide {
 

@@ -3,6 +3,7 @@
 
 #include <QMenuBar>
 
+#include "platform/form.h"
 #include "platform/qt/widgets.h"
 
 namespace gloamtide {

@@ -3,7 +3,7 @@
 
 #include <QWidget>
 
-#include "platform/controls.h"
+#include "platform/picture_box.h"
 
 namespace gloamtide {
 

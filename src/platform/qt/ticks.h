@@ -4,7 +4,7 @@
 #include <QObject>
 #include <QTimer>
 
-#include "platform/controls.h"
+#include "platform/form.h"
 
 namespace gloamtide {
 

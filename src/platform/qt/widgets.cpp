@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "platform/controls.h"
 #include "platform/qt/combo_view.h"
 #include "platform/qt/control_watcher.h"
 #include "platform/qt/frame_view.h"

@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/controls.h"
+#include "platform/control.h"
 
 namespace gloamtide {
 

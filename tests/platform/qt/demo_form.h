@@ -9,6 +9,9 @@
 #include <QWidget>
 #include <stdexcept>
 
+#include "platform/combo_box.h"
+#include "platform/controls.h"
+#include "platform/picture_box.h"
 #include "platform/qt/qt_host.h"
 
 namespace gloamtide {

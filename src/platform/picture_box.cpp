@@ -1,0 +1,32 @@
+#include "platform/picture_box.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace gloamtide {
+
+PictureBox::PictureBox(Container& TheParent, std::string_view TheName) : Container(&TheParent, TheName) {}
+
+Bitmap& PictureBox::Canvas() {
+    const int PixelWidth = std::max(0, static_cast<int>(std::lround(InnerWidth())));
+    const int PixelHeight = std::max(0, static_cast<int>(std::lround(InnerHeight())));
+    if (Picture.Width != PixelWidth || Picture.Height != PixelHeight) {
+        Picture = Bitmap(PixelWidth, PixelHeight, BackColor);
+    }
+    return Picture;
+}
+
+void PictureBox::PointerMoved(double PixelX, double PixelY) const {
+    if (!MouseMove) return;
+    MouseMove(static_cast<float>(ScaleX.ToUnits(PixelX)), static_cast<float>(ScaleY.ToUnits(PixelY)));
+}
+
+void PictureBox::PropertyAssigned(const void* Which, bool Differs) {
+    if (Which == &BackColor && !Picture.Empty()) {
+        std::fill(Picture.Pixels.begin(), Picture.Pixels.end(), BackColor.Get());
+        Drawn(0, 0, Picture.Width - 1, Picture.Height - 1);
+    }
+    Container::PropertyAssigned(Which, Differs);
+}
+
+}  // namespace gloamtide
