@@ -82,7 +82,7 @@ void SetInstant() {
     state.OffsetDays = state.WorkJD - state.SystemJD;
 }
 
-void Leave() {
+void LeaveConfigure() {
     FormConfigure.Hide();
     FormGTMain.Show();
     RedrawMap();
@@ -212,10 +212,10 @@ void CmdConfigureOK_Click() {
     state.ZoneText = state.ZoneShortName[Zone];
     SetInstant();
     RecomputeAlmanac();
-    Leave();
+    LeaveConfigure();
     FormGTMain.Timer1.Enabled = true;
 }
 
-void CmdConfigureCancel_Click() { Leave(); }
+void CmdConfigureCancel_Click() { LeaveConfigure(); }
 
 }  // namespace gloamtide

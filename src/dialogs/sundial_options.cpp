@@ -26,7 +26,7 @@ void ShowFlags() {
     for (const Option& Each : Options()) Each.Box.Value = Each.Flag == True ? 1 : 0;
 }
 
-void Leave() {
+void LeaveSundialOptions() {
     FormSundialOptions.Hide();
     FormGTMain.Show();
     host->SetFocus(FormGTMain.PictureSundial);
@@ -56,12 +56,12 @@ void CommandSDOptions_Click() {
 void CommandSDOptionsOK_Click() {
     state.ConfigSaved = False;
     for (const Option& Each : Options()) Each.Flag = Each.Box.Value == 1 ? True : False;
-    Leave();
+    LeaveSundialOptions();
 }
 
 void CommandSDOptionsCancel_Click() {
     ShowFlags();
-    Leave();
+    LeaveSundialOptions();
 }
 
 }  // namespace gloamtide

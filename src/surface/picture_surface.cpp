@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 
 #include "platform/host.h"
 #include "state/numbers.h"
@@ -238,7 +239,10 @@ void PictureSurface::SetPicture(const Bitmap& Image) {
     Bitmap& Target = Canvas();
     const int Columns = std::min(Target.Width, Image.Width);
     const int Rows = std::min(Target.Height, Image.Height);
-    for (int Y = 0; Y < Rows; ++Y) std::copy_n(Image.Row(Y), Columns, Target.Row(Y));
+    if (&Image == &Target) return;
+    for (int Y = 0; Y < Rows; ++Y) {
+        std::memcpy(Target.Row(Y), Image.Row(Y), static_cast<std::size_t>(Columns) * sizeof(Color));
+    }
     if (Columns > 0 && Rows > 0) Drawn(0, 0, Columns - 1, Rows - 1);
 }
 
