@@ -1,7 +1,7 @@
 // Prints the almanac's numbers in full precision, for accuracy.py to compare.
 //   accuracy_dump           reads lines "JD latitude longitude zone": days, degrees, degrees east, hours west
 //   accuracy_dump calendar  reads lines "year month day hour minute second", Greenwich time
-// The first line written names the columns, in the units of frame/state.h. Rise and Set are minutes of the local day,
+// The first line written names the columns, in the units of state/state.h. Rise and Set are minutes of the local day,
 // NoRiseSet is 1 for a 24 hour day and -1 for a 24 hour night, Season counts from 0, the northern spring.
 #include <iostream>
 #include <limits>

@@ -57,7 +57,7 @@ struct SharedState {
     DateTime SystemTimeBuffer;   // last reading of the system clock, Greenwich time
     Boolean BlinkPhase = False;  // True: the location marker's next disc is white
 
-    // clock/calendar: work area of DateToJulian and JulianToDate
+    // astro/calendar: work area of DateToJulian and JulianToDate
     float WorkYear = 0.0F;  // astronomical year; with a fraction while an animation steps by part of a year
     float WorkMonth = 0.0F;
     float WorkDay = 0.0F;
@@ -93,7 +93,7 @@ struct SharedState {
     Boolean ShowMoon = False;
     Boolean ShowSundial = False;
 
-    // frame/configuration
+    // storage/configuration
     std::string ConfigFilePath;      // the current configuration file, or the sentence that says there is none
     std::string ConfigOpenPath;      // what LoadConfiguration reads
     std::string AppDirectory;        // current directory at the start, home of "Startup.dat"
@@ -101,7 +101,7 @@ struct SharedState {
     Boolean ExitInProgress = False;  // True once the exit sequence has run
     ConfigurationSource StartupSource = ConfigurationSource::StartupFile;
 
-    // frame/startup: the screen, fixed at the start
+    // forms/layout: the screen, fixed at the start
     std::int16_t ScreenWidthPx = 0;  // pixels
     std::int16_t ScreenClass = 0;    // 0 to 3, selects every size of the interface
     std::int16_t MapWidth = 0;       // pixels
@@ -213,7 +213,7 @@ struct SharedState {
     double SunAltitude = 0.0;  // degrees
     double SunAzimuth = 0.0;   // degrees clockwise from the dial's top, direction of the shadow
 
-    // sundial/form_sundial_options and sundial/mottos
+    // dialogs/sundial_options and sundial/mottos
     Boolean SundialLongitudeCorrection = False;
     Boolean SundialEOTCorrection = False;
     Boolean SundialDSTCorrection = False;
@@ -233,7 +233,7 @@ struct SharedState {
     float MaskLatitude = 0.0F;   // degrees
     float MaskCode = 0.0F;       // 0 to 255
 
-    // places/form_configure
+    // dialogs/configure
     Boolean ConfigureArmed = False;  // False while the program fills the dialog: its location handlers do nothing
 };
 

@@ -1,4 +1,4 @@
-// BitBlt and StretchBlt of frame/picture_surface.h.
+// BitBlt and StretchBlt of surface/picture_surface.h.
 
 #include <algorithm>
 #include <cmath>
