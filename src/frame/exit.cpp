@@ -29,8 +29,9 @@ void KeepConfiguration() {
             }
             WriteStartupFile();
             return;
-        } catch (const FileFailure&) {
-            ShowAfterTwoBeeps({"Save File Error", "Error - Invalid Filename.", MessageIcon::Exclamation});
+        } catch (const FileFailure& Failure) {
+            ShowAfterTwoBeeps({"Save File Error", std::string("Error - Invalid Filename.\n") + Failure.what(),
+                               MessageIcon::Exclamation});
             Saving = true;
         }
     }

@@ -31,9 +31,19 @@ void OpenConfiguration(const std::string& Path) {
     FormGTMain.Timer1.Enabled = true;
 }
 
+void SaveAndTell() {
+    SaveConfiguration();
+    if (StartupFileCanHold(state.ConfigFilePath)) return;
+    ShowAfterTwoBeeps({"Saved, But Not For The Next Start",
+                       "The configuration is saved, but the next start will not find it: " + state.ConfigFilePath +
+                           "\n" + NoStartupPath,
+                       MessageIcon::Exclamation});
+}
+
 }  // namespace
 
 void MenuFileSubOpen_Click() {
+    const SharedState Before = state;  // a file that is none may have been taken over in part
     while (const auto Path = host->ShowOpenDialog({ConfigurationFilter, ""})) {
         try {
             OpenConfiguration(*Path);
@@ -42,11 +52,12 @@ void MenuFileSubOpen_Click() {
             ShowAfterTwoBeeps({"File Invalid", "Designated file improperly formatted.", MessageIcon::Exclamation});
         }
     }
+    state = Before;
 }
 
 void MenuFileSubSave_Click() {
     try {
-        SaveConfiguration();
+        SaveAndTell();
     } catch (const FileFailure& Failure) {
         ShowAfterTwoBeeps(
             {"Save Error", std::string("Can't save the configuration. ") + Failure.what(), MessageIcon::Exclamation});
@@ -58,7 +69,7 @@ void MenuFileSubSaveAs_Click() {
     while (const auto Path = host->ShowSaveDialog({ConfigurationFilter, state.ConfigFilePath})) {
         try {
             state.ConfigFilePath = *Path;
-            SaveConfiguration();
+            SaveAndTell();
             return;
         } catch (const FileFailure&) {
             ShowAfterTwoBeeps({"Save-As Error", "Error - can't save file.", MessageIcon::Exclamation});

@@ -3,7 +3,8 @@
 
 namespace gloamtide {
 
-// Asks for a configuration file and shows what it holds. After a file that is none it says so and asks again.
+// Asks for a configuration file and shows what it holds. After a file that is none it says so and asks again; Cancel
+// then leaves all as it was.
 //   Sets:  what LoadConfiguration, SelectZoneRow and RecomputeAlmanac set; ConfigOpenPath, ConfigFilePath; starts
 //   Timer1
 void MenuFileSubOpen_Click();

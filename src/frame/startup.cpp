@@ -83,6 +83,7 @@ void FindConfiguration() {
     try {
         ReadStartupConfiguration();
     } catch (const FileFailure&) {
+        if (state.StartupSource == ConfigurationSource::NamedFile) throw;
         FallBackToDefaults();
     }
 }

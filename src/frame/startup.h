@@ -5,6 +5,7 @@ namespace gloamtide {
 
 // Joins the events of all windows with their handlers and opens the first window. The host must be set. Where the
 // configuration comes from stands in state.StartupSource.
+//   Errors: throws FileFailure where that is a named file that cannot be read or is no configuration
 void StartProgram();
 
 // Asks whether to save what no file holds yet, writes "Startup.dat", unloads every form, the last loaded first, and

@@ -1,5 +1,6 @@
 #include "storage/configuration.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <filesystem>
@@ -16,6 +17,7 @@ namespace gloamtide {
 namespace {
 
 constexpr const char* StartupFile = "Startup.dat";
+constexpr std::size_t LongestLine = 32767;  // bytes, of that file
 constexpr std::size_t RecordLength = 48;
 constexpr std::size_t RecordCount = 21;
 constexpr std::size_t LongestName = RecordLength - 2;  // bytes, beside the length itself
@@ -38,7 +40,7 @@ public:
         const std::size_t Start = Next + 2;
         const std::size_t TextLength = Number(2);
         if (TextLength > LongestName || Start + TextLength > Length)
-            throw FileFailure(FilePath + ": bad location name");
+            throw FileFailure(FilePath + ": not a configuration file");
         Field = FromCodePage(Bytes.substr(Start, TextLength));
     }
 
@@ -119,6 +121,15 @@ void AllRecords(Records& Next) {
     Next(state.SundialDSTCorrection);
 }
 
+// What the file holds before it is written, so that nothing beyond the records gets lost.
+std::string BytesBefore(const std::string& Path) {
+    constexpr std::size_t LargestFile = 1U << 20U;  // bytes; anything larger is something else
+    std::error_code Ignored;                        // what cannot be looked at cannot be written either
+    std::string Bytes = std::filesystem::exists(Path, Ignored) ? ReadFile(Path, LargestFile + 1) : "";
+    if (Bytes.size() > LargestFile) throw FileFailure(Path + ": too large for a configuration file");
+    return Bytes;
+}
+
 void TellStoredName() {
     const std::string Name = FromCodePage(StoredName(state.LocationName));
     if (Name == state.LocationName) return;
@@ -157,27 +168,22 @@ void LoadConfiguration() {
 }
 
 void SaveConfiguration() {
+    const std::string OldBytes = BytesBefore(state.ConfigFilePath);
     RecordWriter File;
     AllRecords(File);
-    WriteFile(state.ConfigFilePath, File.Bytes);
+    WriteFile(state.ConfigFilePath, File.Bytes + OldBytes.substr(std::min(OldBytes.size(), File.Bytes.size())));
     ShowPathInTitle(state.ConfigFilePath);
     state.ConfigSaved = True;
     TellStoredName();
 }
 
 void SaveAnimationOptions() {
-    constexpr std::size_t LargestFile = 1U << 20U;  // bytes; anything larger is something else
-    const std::string& Path = state.ConfigFilePath;
-    std::error_code Ignored;  // what cannot be looked at cannot be written either
-    std::string OldBytes = std::filesystem::exists(Path, Ignored) ? ReadFile(Path, LargestFile + 1) : "";
-    if (OldBytes.size() > LargestFile) throw FileFailure(Path + ": no configuration file");
-    RecordWriter File(std::move(OldBytes), FirstAnimationRecord);
+    RecordWriter File(BytesBefore(state.ConfigFilePath), FirstAnimationRecord);
     AnimationRecords(File);
-    WriteFile(Path, File.Bytes);
+    WriteFile(state.ConfigFilePath, File.Bytes);
 }
 
 void ReadStartupFile() {
-    constexpr std::size_t LongestLine = 32767;  // bytes
     const std::string Text = ReadFile(StartupFile, LongestLine);
     if (Text.empty()) throw FileFailure(std::string(StartupFile) + ": empty");
     const bool Quoted = Text.front() == '"';
@@ -186,9 +192,24 @@ void ReadStartupFile() {
     state.ConfigFilePath = Text.substr(Start, End == std::string::npos ? End : End - Start);
 }
 
+namespace {
+
+// In quotes where that can be; where the path has a quotation mark, bare. Empty where no line can hold it.
+std::string StartupLine(const std::string& Path) {
+    const auto Has = [&Path](const char* Letters) { return Path.find_first_of(Letters) != std::string::npos; };
+    if (Path.size() > LongestLine - 2 || Has("\r\n")) return "";
+    if (!Has("\"")) return '"' + Path + '"';
+    return Path.front() == '"' || Has(",") ? "" : Path;
+}
+
+}  // namespace
+
+bool StartupFileCanHold(const std::string& Path) { return !StartupLine(Path).empty(); }
+
 void WriteStartupFile() {
-    WriteFile((std::filesystem::path(state.AppDirectory) / StartupFile).string(),
-              '"' + state.ConfigFilePath + "\"\r\n");
+    const std::string Line = StartupLine(state.ConfigFilePath);
+    if (Line.empty()) throw FileFailure(state.ConfigFilePath + ": " + NoStartupPath);
+    WriteFile((std::filesystem::path(state.AppDirectory) / StartupFile).string(), Line + "\r\n");
 }
 
 void ShowPathInTitle(const std::string& Path) { FormGTMain.Caption = "Gloamtide (" + Path + ")"; }

@@ -21,9 +21,11 @@ void LoadConfiguration();
 
 // Writes the file named by ConfigFilePath and shows its name in the main window's title. A location name is cut at 46
 // bytes of Windows-1252, a character that it lacks becomes "?", and the user is told so.
+// What the file holds beyond its records stays.
 //   Reads:  the configuration's fields, ConfigFilePath
 //   Sets:   ConfigSaved (True)
-//   Errors: throws FileFailure where the file cannot be written; nothing has changed then
+//   Errors: throws FileFailure where the file cannot be written, or is far too large for a configuration; nothing has
+//           changed then
 void SaveConfiguration();
 
 // Writes the animation settings into the file named by ConfigFilePath, and makes it where there is none. All else in
@@ -38,10 +40,16 @@ void SaveAnimationOptions();
 //   Errors: throws FileFailure where there is no such file or it holds no text
 void ReadStartupFile();
 
-// Writes ConfigFilePath in quotes to "Startup.dat", in the directory that was current at the start.
+// Writes ConfigFilePath to "Startup.dat", in the directory that was current at the start: in quotes or, where it has a
+// quotation mark in it, without.
 //   Reads:  ConfigFilePath, AppDirectory
-//   Errors: throws FileFailure where the file cannot be written; the old one is untouched then
+//   Errors: throws FileFailure where the file cannot be written or cannot hold the path; the old one is untouched then
 void WriteStartupFile();
+
+// Whether a path can be written so that the next start reads it back. A line break can't, nor can a quotation mark
+// beside a comma or at the beginning.
+bool StartupFileCanHold(const std::string& Path);
+constexpr const char* NoStartupPath = "Startup.dat can't hold this path, for its quotation mark or line break.";
 
 // "Gloamtide (Path)" in the main window's title bar.
 void ShowPathInTitle(const std::string& Path);

@@ -5,11 +5,13 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <optional>
 #include <system_error>
-#include <utility>
+
+#include "storage/new_file.h"
 
 namespace gloamtide {
 namespace {
@@ -20,15 +22,16 @@ namespace fs = std::filesystem;
     throw FileFailure(Path.string() + ": " + std::generic_category().message(Error));
 }
 
-// The status of a regular file; none where there is no file of that name.
+// The status of what stands under a name; none where there is nothing.
 std::optional<struct stat> StatusOf(const fs::path& Path) {
     struct stat Status {};
-    if (stat(Path.c_str(), &Status) != 0) {
-        if (errno == ENOENT) return std::nullopt;
-        Fail(Path, errno);
-    }
+    if (stat(Path.c_str(), &Status) == 0) return Status;
+    if (errno == ENOENT) return std::nullopt;
+    Fail(Path, errno);
+}
+
+void RequireRegular(const fs::path& Path, const struct stat& Status) {
     if (!S_ISREG(Status.st_mode)) throw FileFailure(Path.string() + ": not a regular file");
-    return Status;
 }
 
 // The file that a path leads to through symbolic links, whether it exists or not.
@@ -43,66 +46,33 @@ fs::path EndOfLinks(const fs::path& Path) {
     return End;
 }
 
-// A new file beside the one that it shall replace. What is not put in its place is removed again.
-class Replacement {
-public:
-    explicit Replacement(fs::path TheTarget) : Target(std::move(TheTarget)) {
-        if (Descriptor < 0) Fail(Target, errno);
+// Over the old bytes, so that the file keeps its owner and all its names.
+void WriteInPlace(const fs::path& Path, const std::string& Bytes, const struct stat& Old) {
+    const OpenFile File(open(Path.c_str(), O_WRONLY | O_CLOEXEC));
+    const bool Done =
+        File.IsOpen() && File.Reserve(Bytes.size()) && File.Write(Bytes) && File.CutAt(Bytes.size()) && File.Flush();
+    if (!Done) Fail(Path, errno);
+    File.TakePermissions(Old.st_mode);
+}
+
+// Puts a new file in the place of the old one, if there is one. False where that cannot be done but the old file can
+// still be written: where no file can be made beside it or take its name, or cannot be given to its owner.
+bool Replace(const fs::path& Path, const std::string& Bytes, const std::optional<struct stat>& Old) {
+    NewFile New(Path);
+    if (New.IsOpen() && (!Old || New.TakeAfter(*Old))) {
+        if (!New.Write(Bytes) || !New.Flush()) Fail(Path, errno);
+        if (New.PutInPlace()) return true;
     }
-    ~Replacement() {
-        if (Descriptor >= 0) close(Descriptor);
-        if (!InPlace) unlink(Temporary.c_str());
-    }
-    Replacement(const Replacement&) = delete;
-    Replacement& operator=(const Replacement&) = delete;
-
-    void KeepPermissions(mode_t Mode) { Check(fchmod(Descriptor, Mode)); }
-
-    void Write(const std::string& Bytes) {
-        std::size_t Done = 0;
-        while (Done < Bytes.size()) {
-            const ssize_t Written = write(Descriptor, Bytes.data() + Done, Bytes.size() - Done);
-            if (Written >= 0) {
-                Done += static_cast<std::size_t>(Written);
-            } else if (errno != EINTR) {
-                Fail(Target, errno);
-            }
-        }
-    }
-
-    void PutInPlace() {
-        Check(fsync(Descriptor));
-        Check(close(std::exchange(Descriptor, -1)));
-        Check(rename(Temporary.c_str(), Target.c_str()));
-        InPlace = true;
-        const int Folder = open(FolderOf(Target).c_str(), O_RDONLY | O_CLOEXEC);
-        if (Folder < 0) return;
-        fsync(Folder);  // not every file system can; the file itself is on disk
-        close(Folder);
-    }
-
-private:
-    static int MakeFile(const fs::path& Path) {
-        unlink(Path.c_str());  // left by a process of this number that was killed
-        return open(Path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    }
-
-    static fs::path FolderOf(const fs::path& Path) { return Path.has_parent_path() ? Path.parent_path() : "."; }
-
-    void Check(int Result) const {
-        if (Result != 0) Fail(Target, errno);
-    }
-
-    fs::path Target;
-    fs::path Temporary = FolderOf(Target) / (".gloamtide-" + std::to_string(getpid()));
-    int Descriptor = MakeFile(Temporary);
-    bool InPlace = false;
-};
+    if (!Old) Fail(Path, errno);
+    return false;
+}
 
 }  // namespace
 
 std::string ReadFile(const std::string& Path, std::size_t AtMost) {
-    if (!StatusOf(Path)) Fail(Path, ENOENT);
+    const auto Status = StatusOf(Path);
+    if (!Status) Fail(Path, ENOENT);
+    RequireRegular(Path, *Status);
     std::ifstream File(Path, std::ios::binary);
     if (!File.is_open()) Fail(Path, errno);
     std::string Bytes(AtMost, '\0');
@@ -113,13 +83,24 @@ std::string ReadFile(const std::string& Path, std::size_t AtMost) {
 }
 
 void WriteFile(const std::string& Path, const std::string& Bytes) {
+    std::signal(SIGXFSZ, SIG_IGN);  // a limit on the size of files is an error like any other
     const fs::path Target = EndOfLinks(Path);
-    const std::optional<struct stat> Old = StatusOf(Target);
-    if (Old && access(Target.c_str(), W_OK) != 0) Fail(Target, errno);  // a write-protected file stays as it is
-    Replacement New(Target);
-    if (Old) New.KeepPermissions(Old->st_mode & 07777U);
-    New.Write(Bytes);
-    New.PutInPlace();
+    const auto Old = StatusOf(Target);
+    if (Old) {
+        RequireRegular(Target, *Old);
+        if (access(Target.c_str(), W_OK) != 0) Fail(Target, errno);  // a write-protected file stays as it is
+    }
+    RemoveLeftovers(Target);
+    const bool HasOtherNames = Old && Old->st_nlink > 1;
+    if (HasOtherNames || !Replace(Target, Bytes, Old)) WriteInPlace(Target, Bytes, *Old);
+}
+
+void WriteFileOrDevice(const std::string& Path, const std::string& Bytes) {
+    const auto Old = StatusOf(Path);
+    if (!Old || S_ISREG(Old->st_mode)) return WriteFile(Path, Bytes);
+    std::signal(SIGPIPE, SIG_IGN);  // a reader that leaves is an error too
+    const OpenFile Device(open(Path.c_str(), O_WRONLY | O_CLOEXEC));
+    if (!Device.IsOpen() || !Device.Write(Bytes)) Fail(Path, errno);
 }
 
 }  // namespace gloamtide
