@@ -4,22 +4,49 @@
 #include <QIcon>
 #include <QPixmap>
 
+#include "app/command_line.h"
 #include "assets/assets.h"
 #include "frame/startup.h"
 #include "platform/qt/qt_host.h"
 
-int main(int Count, char** Arguments) {
-    QApplication Application(Count, Arguments);
-    QApplication::setApplicationName("Gloamtide");
-    const gloamtide::AssetBytes Icon = gloamtide::IconPng();
+namespace {
+
+using namespace gloamtide;
+
+constexpr const char* Help =
+    "Usage: gloamtide\n"
+    "Shows the Earth in the light of the Sun, with an almanac and a sundial. Its help is in its Help menu.\n"
+    "\n"
+    "  --help, --version  print this help, or the version, and end\n";
+
+int ShowProgram() {
+    const AssetBytes Icon = IconPng();
     QPixmap Picture;
     Picture.loadFromData(Icon.data(), static_cast<uint>(Icon.size()), "PNG");
     QApplication::setWindowIcon(Picture);
 
-    gloamtide::QtHost Desktop;
-    const gloamtide::AssetBytes Help = gloamtide::HelpHtml();
+    QtHost Desktop;
+    const AssetBytes HelpText = HelpHtml();
     Desktop.HelpTexts["GT401.hlp"] =
-        QString::fromUtf8(reinterpret_cast<const char*>(Help.data()), static_cast<qsizetype>(Help.size()));
-    gloamtide::StartProgram();
+        QString::fromUtf8(reinterpret_cast<const char*>(HelpText.data()), static_cast<qsizetype>(HelpText.size()));
+    StartProgram();
     return Desktop.Run();
+}
+
+}  // namespace
+
+int main(int Count, char** Arguments) {
+    try {
+        QCommandLineParser Parser;
+        ParseArguments(Parser, Count, Arguments);
+        if (AnswersQuestion(Parser, Help)) return 0;
+        if (!Parser.positionalArguments().isEmpty()) throw UsageError("takes no file; its File menu opens one");
+    } catch (const UsageError& Error) {
+        SayError("gloamtide", Error.what());
+        return 2;
+    }
+    int OnlyName = 1;  // what else there was is answered
+    QApplication Application(OnlyName, Arguments);
+    QApplication::setApplicationName("Gloamtide");
+    return ShowProgram();
 }

@@ -1,6 +1,7 @@
 #include "dialogs/animation_settings.h"
 
 #include <array>
+#include <cmath>
 
 #include "forms/form_animation.h"
 #include "forms/form_gt_main.h"
@@ -36,8 +37,14 @@ bool InRange(const std::string& Text, double Limit) {
     return Value >= -Limit && Value <= Limit;
 }
 
-// The three texts stand in the caption as they were typed.
+// The three texts stand in the caption as they were typed. Steps that no dialog accepts come from a file made by hand.
 void ShowAnimationInfo() {
+    constexpr float Widest = 10000.0F;
+    for (const StepText& Each : StepTexts()) {
+        if (std::abs(Each.Setting) < Widest) continue;
+        FormGTMain.LabelAnimInfo.Caption = "";
+        return;
+    }
     const AnimationForm& F = FormAnimation;
     FormGTMain.LabelAnimInfo.Caption = F.TextStepYears.Text.Get() + "y, " + F.TextStepDays.Text.Get() + "d, " +
                                        F.TextStepHours.Text.Get() +

@@ -1,5 +1,7 @@
 #include "map/hour_ruler.h"
 
+#include <cmath>
+
 #include "astro/calendar.h"
 #include "forms/form_gt_main.h"
 #include "forms/form_pictures.h"
@@ -64,7 +66,8 @@ void DrawBars() {
 }
 
 std::string DateText(float Month, float Day, float Year) {
-    if (!(Month >= 1.0F && Month <= 12.0F)) return "";  // a broken date has no month
+    constexpr float Farthest = 1e6F;  // years; a broken date has none within, or no month
+    if (!(Month >= 1.0F && Month <= 12.0F && std::abs(Year) < Farthest)) return "";
     return state.MonthAbbreviations[static_cast<std::size_t>(Month)] + PlainNumber(Day) + ", " + PlainNumber(Year);
 }
 

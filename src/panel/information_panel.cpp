@@ -1,6 +1,7 @@
 #include "panel/information_panel.h"
 
 #include <cmath>
+#include <string_view>
 
 #include "astro/lunar.h"
 #include "forms/form_gt_main.h"
@@ -10,6 +11,13 @@
 
 namespace gloamtide {
 namespace {
+
+// A number in its pattern, with what follows it; nothing where it is none or too wide for the almanac, as only a file
+// made by hand has it.
+std::string Told(double Value, std::string_view Pattern, const std::string& Rest = "") {
+    constexpr double Widest = 1e8;
+    return std::abs(Value) < Widest ? FormatNumber(Value, Pattern) + Rest : "";
+}
 
 // 0.005 degrees keep what was set in whole minutes from falling one minute short.
 void SplitDegrees(double Coordinate, std::int16_t& Degrees, std::int16_t& Minutes) {
@@ -22,7 +30,7 @@ void SplitDegrees(double Coordinate, std::int16_t& Degrees, std::int16_t& Minute
 
 std::string Coordinate(double Value, int Degrees, int Minutes, const char* DegreePattern, const char* Positive,
                        const char* Negative) {
-    if (std::isnan(Value)) return "";
+    if (!(std::abs(Value) < 1000.0)) return "";
     if (Value == 0.0) return "0d 0m";
     return FormatNumber(Degrees, DegreePattern) + "d " + FormatNumber(Minutes, "00") + "m " +
            (Value > 0.0 ? Positive : Negative);
@@ -30,18 +38,22 @@ std::string Coordinate(double Value, int Degrees, int Minutes, const char* Degre
 
 std::string Date(float Month, float Day, float Year) {
     if (!(Month >= 1.0F && Month <= 12.0F)) return "";  // a broken date has no month
-    return state.MonthNames[static_cast<std::size_t>(Month)] + PlainNumber(Day) + ", " + FormatNumber(Year, "###0");
+    const std::string ShownYear = Told(Year, "###0");
+    if (ShownYear.empty()) return "";
+    return state.MonthNames[static_cast<std::size_t>(Month)] + PlainNumber(Day) + ", " + ShownYear;
 }
 
 std::string Time(float Hour, float Minute, float Second) {
+    if (!std::isfinite(Hour + Minute + Second)) return "";
     return FormatNumber(Hour, "00") + ":" + FormatNumber(Minute, "00") + ":" + FormatNumber(Second, "00");
 }
 
 // Kept: the 12-hour clock counts from 0, so half past noon reads 0:30 PM.
 std::string RiseOrSet(int Hour, int Minute, float ChangeSeconds, const std::string& ChangeText) {
+    const std::string Change = Told(ChangeSeconds, "###0", ChangeText);
+    if (Change.empty()) return "";
     const char* const Marker = Hour < 12 || Hour == 24 ? " AM  (" : " PM  (";
-    return FormatNumber(Hour % 12, "#0") + ":" + FormatNumber(Minute, "00") + Marker +
-           FormatNumber(ChangeSeconds, "###0") + ChangeText;
+    return FormatNumber(Hour % 12, "#0") + ":" + FormatNumber(Minute, "00") + Marker + Change;
 }
 
 void ShowRiseAndSet(Label& Rise, Label& Set) {
@@ -63,7 +75,7 @@ void ShowRiseAndSet(Label& Rise, Label& Set) {
 std::string Countdown(float Days) {
     const float WholeDays = std::floor(Days);
     const float Hours = (Days - WholeDays) * 24.0F;
-    return FormatNumber(WholeDays, "#0") + " Days, " + FormatNumber(Hours, "#0") + " Hours";
+    return Told(WholeDays, "#0", " Days, " + FormatNumber(Hours, "#0") + " Hours");
 }
 
 }  // namespace
@@ -81,21 +93,22 @@ void UpdateInformationPanel() {
     F.LabelLocNameShow[i].Caption = state.LocationName;
     F.LabelGTLocalDateShow[i].Caption = Date(state.LocalMonth, state.LocalDay, state.LocalYear);
     F.LabelGTLocalTimeShow[i].Caption = Time(state.LocalHour, state.LocalMinute, state.LocalSecond);
-    F.LabelDaylightStdShow[i].Caption = state.DaylightHours == 1 ? "(Daylight Savings Time)" : "(Standard Time)";
+    const char* const Note = state.DaylightHours == 1 ? "(Daylight Savings Time)" : "(Standard Time)";
+    F.LabelDaylightStdShow[i].Caption = F.LabelGTLocalTimeShow[i].Caption == "" ? "" : Note;
     ShowRiseAndSet(F.LabelLocSunriseShow[i], F.LabelLocSunsetShow[i]);
     ChooseMoonPhaseText();
-    F.LabelPhaseOfMoonShow[i].Caption = FormatNumber(state.MoonLitPercent, "##0.0") + " %  " + state.MoonPhaseText;
-    F.LabelAgeOfMoonShow[i].Caption = FormatNumber(state.MoonAgeDays, "#0.00") + " Days of 29.53 Day Synodic Cycle";
+    F.LabelPhaseOfMoonShow[i].Caption = Told(state.MoonLitPercent, "##0.0", " %  " + state.MoonPhaseText);
+    F.LabelAgeOfMoonShow[i].Caption = Told(state.MoonAgeDays, "#0.00", " Days of 29.53 Day Synodic Cycle");
     F.LabelTimezoneShow[i].Caption = state.ZoneText;
     F.LabelGreenwichDateShow[i].Caption = Date(state.GreenwichMonth, state.GreenwichDay, state.GreenwichYear);
-    F.LabelGreenwichTimeShow[i].Caption =
-        Time(state.GreenwichHour, state.GreenwichMinute, state.GreenwichSecond) + "    (Universal Time)";
-    F.LabelGTJDShow[i].Caption = FormatNumber(state.CurrentJD, "0000000.00000");
-    F.LabelSolDecShow[i].Caption = FormatNumber(state.SunDeclination, "#0.00") + "  Degrees";
+    const std::string GreenwichTime = Time(state.GreenwichHour, state.GreenwichMinute, state.GreenwichSecond);
+    F.LabelGreenwichTimeShow[i].Caption = GreenwichTime.empty() ? "" : GreenwichTime + "    (Universal Time)";
+    F.LabelGTJDShow[i].Caption = Told(state.CurrentJD, "0000000.00000");
+    F.LabelSolDecShow[i].Caption = Told(state.SunDeclination, "#0.00", "  Degrees");
     F.LabelEqtnTimeShow[i].Caption =
-        FormatNumber(state.EquationOfTime, "#0.00") +
-        (state.EquationOfTime < 0.0F ? "  Minutes (Sun Behind Clock)" : "  Minutes (Sun Ahead of Clock)");
-    F.LabelTimeOffsetShow[i].Caption = FormatNumber(state.OffsetDays, "#######0.0##") + "  Days";
+        Told(state.EquationOfTime, "#0.00",
+             state.EquationOfTime < 0.0F ? "  Minutes (Sun Behind Clock)" : "  Minutes (Sun Ahead of Clock)");
+    F.LabelTimeOffsetShow[i].Caption = Told(state.OffsetDays, "#######0.0##", "  Days");
     F.LabelSeasonShow[i].Caption = state.SeasonNorth + " in N. Hemi -- " + state.SeasonSouth + " in S. Hemi";
     F.LabelCountdownShow[i].Caption = Countdown(state.SeasonDaysLeft);
 }

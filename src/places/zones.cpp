@@ -70,7 +70,7 @@ int NearestRow(float Hours) {
 
 // In the manner of the short names: GMT + 5:20 for 5 hours 20 minutes east of Greenwich.
 std::string OffsetText(float Hours) {
-    if (!std::isfinite(Hours)) return "";
+    if (!(std::abs(Hours) <= 24.0F)) return "";  // nothing that a clock could show
     const std::int32_t Minutes = ToInt32(std::abs(Hours) * 60.0);
     std::string Text = Hours > 0.0F ? "GMT - " : "GMT + ";
     Text += std::to_string(Minutes / 60);

@@ -43,6 +43,7 @@ void Form::Load() {
 
 void Form::Show() {
     Load();
+    if (Visible) host->BringToFront(*this);
     Visible = true;
 }
 

@@ -48,7 +48,7 @@ public:
     Form(std::string_view TheName, double DesignWidth, double DesignHeight, bool IsBorderless = false);
 
     void Load();  // once, until it is unloaded: puts it among LoadedForms, then raises OnLoad
-    void Show();  // loads it at need
+    void Show();  // loads it at need; one that is shown already comes to the front
     void Hide() { Visible = false; }
     void Unload();  // at most once: takes it from LoadedForms, then raises OnUnload
     void Close();   // the user closes the window: presses its Cancel button or, where it has none, unloads it

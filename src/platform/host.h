@@ -59,6 +59,7 @@ public:
 
     virtual void FormLoaded(Form& Which) = 0;    // before its load event; from here on the host watches it
     virtual void FormUnloaded(Form& Which) = 0;  // after its unload event
+    virtual void BringToFront(Form& Which) = 0;  // a window that is shown already
     virtual void SetFocus(Control& Which) = 0;
     virtual void ProcessPendingEvents() = 0;  // once, so that what was shown is painted
     virtual void EndProcess() = 0;            // asks the event loop to end

@@ -32,6 +32,7 @@ public:
     std::vector<std::string> HelpFiles;
     int Beeps = 0;
     Control* Focus = nullptr;
+    Form* InFront = nullptr;  // shown again last
     bool Ended = false;
 
     // Lets a whole number of milliseconds pass, from the system clock's reading on: moves both clocks and raises the
@@ -50,6 +51,7 @@ public:
     GlyphMask RenderText(const Font& TheFont, const std::string& Text) override;
     void FormLoaded(Form&) override {}
     void FormUnloaded(Form&) override {}
+    void BringToFront(Form& Which) override { InFront = &Which; }
     void SetFocus(Control& Which) override { Focus = &Which; }
     void ProcessPendingEvents() override {}
     void EndProcess() override { Ended = true; }

@@ -50,7 +50,7 @@ void ControlWatcher::TakeNaturalSize() {
     const auto IsFree = [](double Pixels, int LastNatural) { return Pixels == 0.0 || Pixels == LastNatural; };
     Writing = true;
     if (IsFree(Record.Width.Pixels(), Natural.width())) {
-        Natural.setWidth(Widget.sizeHint().width());
+        Natural.setWidth(Widget.sizeHint().width() - Widget.contentsMargins().left());
         Record.Width.SetPixels(Natural.width());
     }
     if (IsFree(Record.Height.Pixels(), Natural.height())) {
@@ -66,24 +66,36 @@ void ControlWatcher::Place() {
     const int Border = Holder == nullptr ? 0 : Holder->BorderWidth.Get();
     QRect Box(qRound(Record.Left.Pixels()) + Border, qRound(Record.Top.Pixels()) + Border,
               qRound(Record.Width.Pixels()), qRound(Record.Height.Pixels()));
-    // A row can be lower than a line of its font, and a label at the right edge narrower than its text. Where that
-    // shows on nothing but letters the label reaches over, upward and downward, and to the left.
-    if (const auto* Text = dynamic_cast<const Label*>(&Record); Text != nullptr && !Text->Opaque && !Text->WordWrap) {
-        const QSize Needed = Widget.sizeHint().expandedTo(Box.size());
-        const int Missing = Needed.height() - Box.height();
-        Box.adjust(0, -(Missing / 2), 0, Missing - Missing / 2);
-        const int Edge = qRound(Record.Parent->InnerWidth()) + Border;
-        if (Holder != nullptr && Box.x() + Box.width() >= Edge - Border) {
-            Box.setWidth(Needed.width());
-            Box.moveRight(Edge - 1);
-        }
-    }
+    const auto* Text = dynamic_cast<const Label*>(&Record);
+    if (Text != nullptr && !Text->Opaque && !Text->WordWrap) Box = RoomForLetters(Box, Holder != nullptr, Border);
     if (Border > 0) {  // what a picture holds stays off its border, and is whole where there is room
         const QRect Inner(Border, Border, qRound(Record.Parent->InnerWidth()), qRound(Record.Parent->InnerHeight()));
         Box.moveBottom(std::min(Box.bottom(), Inner.bottom()));
         Box &= Inner;
     }
     Widget.setGeometry(Box);
+}
+
+// A row can be lower than a line of its font, a label at a picture's right edge narrower than its text, and the ink of
+// a first letter begin before its text does. Where that shows on nothing but letters the label reaches over: upward and
+// downward, and to the left as far as the ink needs it. One that fits where it was placed stays there.
+QRect ControlWatcher::RoomForLetters(QRect Box, bool OnPicture, int Border) {
+    auto& Text = dynamic_cast<QLabel&>(Widget);
+    const QSize Needed = Text.sizeHint().expandedTo(Box.size());
+    const int Missing = Needed.height() - Box.height();
+    Box.adjust(0, -(Missing / 2), 0, Missing - Missing / 2);
+    if (!OnPicture) return Box;
+    const QRect Ink = Text.fontMetrics().tightBoundingRect(Text.text());
+    const bool AtLeftEdge = Box.left() <= Border && Text.alignment().testFlag(Qt::AlignLeft);
+    const int Overhang = AtLeftEdge ? std::max(0, -Ink.left()) : 0;
+    Text.setContentsMargins(Overhang, 0, 0, 0);
+    // Letters do not touch a border; at an open edge the last letter's soft rim may be cut.
+    const int Edge = qRound(Record.Parent->InnerWidth()) + Border;
+    const int Last = Border > 0 ? Edge - 1 : Edge + 1;
+    const int InkEnd = Box.left() + Overhang + Ink.right() + 1;
+    if (InkEnd > Last) Box.translate(Last - InkEnd, 0);
+    if (Box.left() + Needed.width() > Edge) Box.setRight(Edge - 1);
+    return Box;
 }
 
 }  // namespace gloamtide

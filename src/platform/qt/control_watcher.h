@@ -32,6 +32,7 @@ private:
     void ShowFont();
     void TakeNaturalSize();
     void Place();
+    QRect RoomForLetters(QRect Box, bool OnPicture, int Border);
 
     Control& Record;
     QWidget& Widget;

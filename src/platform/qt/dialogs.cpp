@@ -1,7 +1,13 @@
 #include "platform/qt/dialogs.h"
 
+#include <QCloseEvent>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
+#include <QScreen>
+#include <algorithm>
+
+#include "platform/qt/picture_view.h"
 
 namespace gloamtide {
 namespace {
@@ -18,6 +24,48 @@ QMessageBox::Icon QtIcon(MessageIcon Icon) {
     return QMessageBox::NoIcon;
 }
 
+class ProgramMessage : public QMessageBox {
+public:
+    ProgramMessage(const MessageBox& Message, QWidget* Parent)
+        : QMessageBox(QtIcon(Message.Icon), QString::fromStdString(Message.Title), QString::fromStdString(Message.Text),
+                      Message.Buttons == MessageButtons::OK ? Ok : Yes | No, Parent) {
+        setObjectName("MessageBox");
+        setTextFormat(Qt::PlainText);
+        setWindowModality(Qt::ApplicationModal);
+    }
+
+protected:
+    // A question is answered by a button: neither the Escape key nor the window's close button counts as one.
+    void closeEvent(QCloseEvent* Event) override {
+        if (IsQuestion()) {
+            Event->ignore();
+        } else {
+            QMessageBox::closeEvent(Event);
+        }
+    }
+    void keyPressEvent(QKeyEvent* Event) override {
+        if (!IsQuestion() || Event->key() != Qt::Key_Escape) QMessageBox::keyPressEvent(Event);
+    }
+
+    // Over the splash it stands below the picture, whose title stays to be read.
+    void showEvent(QShowEvent* Event) override {
+        QMessageBox::showEvent(Event);
+        const QWidget* Splash = parentWidget();
+        if (Splash == nullptr || !Splash->windowFlags().testFlag(Qt::FramelessWindowHint)) return;
+        const auto* Picture = Splash->findChild<PictureView*>();
+        if (Picture == nullptr) return;
+        constexpr int TitleBar = 40;  // pixels, what the desktop may add, and a gap
+        const QPoint Below = Picture->mapToGlobal(QPoint(Picture->width() / 2, Picture->height()));
+        const QRect Screen = Splash->screen()->availableGeometry();
+        const int Lowest = Screen.bottom() - height() - TitleBar;
+        move(std::clamp(Below.x() - width() / 2, Screen.left(), std::max(Screen.left(), Screen.right() - width())),
+             std::max(Screen.top(), std::min(Below.y() + 8, Lowest)));
+    }
+
+private:
+    bool IsQuestion() const { return standardButtons() != Ok; }
+};
+
 std::optional<std::string> Chosen(QFileDialog& Box, const FileDialog& Dialog) {
     Box.setNameFilter(QtFilter(Dialog.Filter));
     if (!Dialog.FileName.empty()) Box.selectFile(QString::fromStdString(Dialog.FileName));
@@ -28,15 +76,9 @@ std::optional<std::string> Chosen(QFileDialog& Box, const FileDialog& Dialog) {
 }  // namespace
 
 MessageAnswer AskMessage(const MessageBox& Message, QWidget* Parent) {
-    const bool Choice = Message.Buttons == MessageButtons::YesNo;
-    QMessageBox Box(QtIcon(Message.Icon), QString::fromStdString(Message.Title), QString::fromStdString(Message.Text),
-                    Choice ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok),
-                    Parent);
-    Box.setObjectName("MessageBox");
-    Box.setTextFormat(Qt::PlainText);
-    Box.setWindowModality(Qt::ApplicationModal);
+    ProgramMessage Box(Message, Parent);
     const int Answer = Box.exec();
-    if (!Choice) return MessageAnswer::OK;
+    if (Message.Buttons == MessageButtons::OK) return MessageAnswer::OK;
     return Answer == QMessageBox::Yes ? MessageAnswer::Yes : MessageAnswer::No;
 }
 

@@ -120,6 +120,14 @@ void QtHost::FormUnloaded(Form& Which) {
     Window->deleteLater();
 }
 
+void QtHost::BringToFront(Form& Which) {
+    QWidget* Window = WindowOf(Which);
+    if (Window == nullptr) return;
+    Window->setWindowState(Window->windowState() & ~Qt::WindowMinimized);
+    Window->raise();
+    Window->activateWindow();
+}
+
 void QtHost::SetFocus(Control& Which) {
     const Control* Root = &Which;
     while (Root->Parent != nullptr) Root = Root->Parent;

@@ -39,6 +39,7 @@ public:
     GlyphMask RenderText(const Font& TheFont, const std::string& Text) override;
     void FormLoaded(Form& Which) override;
     void FormUnloaded(Form& Which) override;
+    void BringToFront(Form& Which) override;
     void SetFocus(Control& Which) override;
     void ProcessPendingEvents() override;
     void EndProcess() override;
