@@ -3,9 +3,12 @@
 #include <QApplication>
 #include <QIcon>
 #include <QPixmap>
+#include <QStandardPaths>
+#include <vector>
 
 #include "app/command_line.h"
 #include "assets/assets.h"
+#include "forms/layout.h"
 #include "frame/startup.h"
 #include "platform/qt/qt_host.h"
 
@@ -29,6 +32,14 @@ int ShowProgram() {
     const AssetBytes HelpText = HelpHtml();
     Desktop.HelpTexts["GT401.hlp"] =
         QString::fromUtf8(reinterpret_cast<const char*>(HelpText.data()), static_cast<qsizetype>(HelpText.size()));
+    Desktop.KeepSettings(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                         "/gloamtide/gloamtide.ini");
+    std::vector<ProgramScreen> Screens;
+    for (const std::int16_t Class : {0, 1, 2, 3}) {
+        const BoardSize Board = BoardOf(Class);
+        Screens.push_back({ScreenWidthOf(Class), {Board.Width, Board.Height}});
+    }
+    Desktop.ChooseScreen(Screens);
     StartProgram();
     return Desktop.Run();
 }

@@ -16,6 +16,7 @@ MainForm::MainForm() : Form("FormGTMain", 0.0, 0.0) {
     PictureGT.Description = "World map";
     PictureGTContainer.Description = "World map and almanac";
 
+    MenuShowHideSubFullScreen.Shortcut = "F11";
     DesignPanels();
     DesignSundial();
 

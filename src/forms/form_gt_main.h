@@ -34,6 +34,8 @@ struct MainForm : Form {
     Menu MenuShowHideSubTZSep{MenuShowHide, "MenuShowHideSubTZSep"};
     Menu MenuShowHideSubSundial{MenuShowHide, "MenuShowHideSubSundial", "S&undial"};
     Menu MenuShowHideSubSDSep{MenuShowHide, "MenuShowHideSubSDSep"};
+    Menu MenuShowHideSubAlmanac{MenuShowHide, "MenuShowHideSubAlmanac", "Al&manac"};
+    Menu MenuShowHideSubFullScreen{MenuShowHide, "MenuShowHideSubFullScreen", "&Full Screen"};
     Menu MenuMap{*this, "MenuMap", "&Map"};
     Menu MenuMapSubNatural{MenuMap, "MenuMapSubNatural", "&Natural"};
     Menu MenuMapSubNaturalSep{MenuMap, "MenuMapSubNaturalSep"};

@@ -6,6 +6,7 @@
 #include "forms/form_gt_main.h"
 #include "forms/form_pictures.h"
 #include "platform/host.h"
+#include "state/extras.h"
 #include "state/numbers.h"
 #include "state/state.h"
 
@@ -48,6 +49,8 @@ constexpr std::array<DialLayout, 4> Dials = {{
     {320, 240, 1850, 2700, 4000, 400, 2700, 10, 3300},
 }};
 
+constexpr int MapBorders = 4;  // pixels, both sides of the map together
+
 const ClassLayout& Current() { return Layouts[static_cast<std::size_t>(state.ScreenClass)]; }
 PictureSurface& CurrentPanel() { return FormGTMain.PictureGTData[static_cast<std::size_t>(state.ScreenClass)]; }
 
@@ -59,11 +62,43 @@ std::int16_t ScreenClassOf(int WidthPx) {
     return WidthPx < 1280 ? 2 : 3;
 }
 
+int ScreenWidthOf(std::int16_t Class) {
+    constexpr int Widths[] = {640, 800, 1024, 1280};
+    return Widths[Class];
+}
+
+namespace {
+
+double MapBottom(const ClassLayout& Layout) { return Layout.MapTop + Layout.MapHeight + MapBorders; }
+double PanelTop(const ClassLayout& Layout) { return Layout.MapTop + 1.01 * (Layout.MapHeight + MapBorders); }
+
+void SetBoard(Form& Which, const BoardSize& Size) {
+    Which.BoardWidth = Size.Width;
+    Which.BoardHeight = Size.Height;
+}
+
+}  // namespace
+
+BoardSize BoardOf(std::int16_t Class) {
+    const auto Index = static_cast<std::size_t>(Class);
+    const double Height = PanelTop(Layouts[Index]) + FormGTMain.PictureGTData[Index].Height;
+    return {1.0 * ScreenWidthOf(Class), std::ceil(Height)};
+}
+
+void ShowAlmanac() {
+    const bool Shown = extras.AlmanacShown == True;
+    CurrentPanel().Visible = Shown;
+    const double Height = Shown ? BoardOf(state.ScreenClass).Height : MapBottom(Current());
+    SetBoard(FormGTMain, {1.0 * state.ScreenWidthPx, Height});
+}
+
 void PlaceOnForm(Form& Which, Control& Element, const DialogPlace (&Places)[4]) {
     Which.SetScaleWidth(1000.0);
     Which.SetScaleHeight(1000.0);
     const int WidthPx = ToInt16(host->ScreenWidthTwips() / TwipsPerPixel);
-    const DialogPlace& Place = Places[ScreenClassOf(WidthPx)];
+    const std::int16_t Class = ScreenClassOf(WidthPx);
+    SetBoard(Which, BoardOf(Class));
+    const DialogPlace& Place = Places[Class];
     Element.Move(Place.Left, Place.Top);
 }
 
@@ -72,10 +107,11 @@ void MeasureScreen() {
     state.ScreenClass = ScreenClassOf(state.ScreenWidthPx);
     state.MapWidth = Current().MapWidth;
     state.MapHeight = Current().MapHeight;
+    ShowAlmanac();
 
     FormPictures.Load();
     for (PictureSurface* Each : FormPictures.WorkPictures()) Each->Size(state.MapWidth, state.MapHeight);
-    FormGTMain.PictureGT.Size(state.MapWidth + 4, state.MapHeight + 4);
+    FormGTMain.PictureGT.Size(state.MapWidth + MapBorders, state.MapHeight + MapBorders);
     FormGTMain.PictureGTContainer.Size(state.ScreenWidthPx, 1.4 * CurrentPanel().Height + state.MapHeight);
 }
 
@@ -116,7 +152,7 @@ void ApplyClass() {
     state.MarkerRadiusX = Current().MarkerRadiusX;
     state.MarkerRadiusY = Current().MarkerRadiusY;
     F.LabelWorking.Move((F.PictureGT.Width - F.LabelWorking.Width) / 2.0, F.PictureGT.Height / 2.0);
-    CurrentPanel().Visible = true;
+    ShowAlmanac();
 }
 
 // Before the dial has a scale of its own: it still counts in twips.

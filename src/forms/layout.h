@@ -16,9 +16,23 @@ struct DialogPlace {
     double Top;
 };
 
-// Brings an element of a form to about the middle of the screen. The form still has its design size, and keeps the
-// units that this gives it when it then fills the screen.
+// Brings an element of a form to about the middle of the board, which is as large as the main window's. The form still
+// has its design size, and keeps the units that this gives it when it is shown larger.
 void PlaceOnForm(Form& Which, Control& Element, const DialogPlace (&Places)[4]);
+
+// The size of the main window's board on a screen of a class, in pixels: map, labels and almanac.
+struct BoardSize {
+    double Width;
+    double Height;
+};
+BoardSize BoardOf(std::int16_t Class);
+
+// The width of the narrowest screen of a class, but for the first: of the one that it was made for. Pixels.
+int ScreenWidthOf(std::int16_t Class);
+
+// Shows or hides the almanac's panel; without it the board ends under the map.
+//   Reads:  AlmanacShown of the extras, ScreenClass
+void ShowAlmanac();
 
 // Fixes the screen's class and the sizes of the map and of all pictures.
 //   Sets:  ScreenWidthPx, ScreenClass, MapWidth, MapHeight; the sizes of the work pictures, of PictureTZmask,

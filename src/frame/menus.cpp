@@ -3,9 +3,12 @@
 #include <array>
 
 #include "forms/form_gt_main.h"
+#include "forms/layout.h"
 #include "map/day_night.h"
 #include "platform/host.h"
+#include "state/extras.h"
 #include "state/state.h"
+#include "storage/settings.h"
 
 namespace gloamtide {
 namespace {
@@ -55,6 +58,9 @@ void ConnectMenus() {
     for (const ShowHideItem& Command : ShowHideItems()) {
         Command.Item.Click = [Command] { ShowOrHide(Command); };
     }
+    FormGTMain.MenuShowHideSubAlmanac.Click = MenuShowHideSubAlmanac_Click;
+    FormGTMain.MenuShowHideSubFullScreen.Click = [] { FormGTMain.FullScreen = !FormGTMain.FullScreen; };
+    FormGTMain.FullScreenChanged = [] { FormGTMain.MenuShowHideSubFullScreen.Checked = FormGTMain.FullScreen; };
     FormGTMain.MenuMapSubNatural.Click = MenuMapSubNatural_Click;
     FormGTMain.MenuMapSubPolitical.Click = MenuMapSubPolitical_Click;
     FormGTMain.MenuHelpSubContents.Click = MenuHelpSubContents_Click;
@@ -62,7 +68,15 @@ void ConnectMenus() {
 
 void ShowChecks() {
     for (const ShowHideItem& Command : ShowHideItems()) Command.Item.Checked = Command.Flag == True;
+    FormGTMain.MenuShowHideSubAlmanac.Checked = extras.AlmanacShown == True;
     CheckMapType();
+}
+
+void MenuShowHideSubAlmanac_Click() {
+    extras.AlmanacShown = extras.AlmanacShown == True ? False : True;
+    FormGTMain.MenuShowHideSubAlmanac.Checked = extras.AlmanacShown == True;
+    ShowAlmanac();
+    SaveExtras();
 }
 
 void MenuMapSubNatural_Click() { ChangeMapType(0); }

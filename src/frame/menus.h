@@ -11,6 +11,10 @@ void ConnectMenus();
 //   Reads:  the Show flags, MapType
 void ShowChecks();
 
+// The almanac is the program's own: it leaves ConfigSaved alone.
+//   Sets:  AlmanacShown of the extras
+void MenuShowHideSubAlmanac_Click();
+
 // The map type commands only prepare the rebuild; Timer4 does it a tenth of a second later, so that the user sees
 // LabelWorking meanwhile. The type in force is rebuilt again.
 //   Sets:  MapType

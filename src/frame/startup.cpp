@@ -29,6 +29,7 @@
 #include "state/state.h"
 #include "storage/configuration.h"
 #include "storage/files.h"
+#include "storage/settings.h"
 #include "sundial/mottos.h"
 
 namespace gloamtide {
@@ -100,6 +101,7 @@ void StartTimers() {
 
 void StartProgram() {
     ConnectHandlers();
+    LoadExtras();
     FormSplash.Load();
 }
 

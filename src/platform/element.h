@@ -28,6 +28,7 @@ public:
         Handler = std::move(NewHandler);
         return *this;
     }
+    explicit operator bool() const { return static_cast<bool>(Handler); }  // whether anything would happen
     void operator()() const {
         if (Handler) Handler();
     }

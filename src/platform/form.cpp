@@ -41,6 +41,11 @@ void Form::Load() {
     OnLoad();
 }
 
+void Form::PropertyAssigned(const void* Which, bool Differs) {
+    Container::PropertyAssigned(Which, Differs);
+    if (Which == &FullScreen && Differs) FullScreenChanged();
+}
+
 void Form::Show() {
     Load();
     if (Visible) host->BringToFront(*this);

@@ -25,6 +25,7 @@ class Menu : public Element {
 public:
     Property<std::string> Caption{*this};
     Property<bool> Checked{*this, false};
+    std::string Shortcut;  // a key such as "F11", set before the menu is shown
     const bool Separator;
     std::vector<Menu*> Items;
     Event Click;
@@ -34,10 +35,14 @@ public:
     Menu(Menu& TheParent, std::string_view TheName);                               // a separator
 };
 
-// A window. All but borderless ones fill the screen when they are shown.
+// A window. What it holds stands on a board, which the host shows as large as the window allows, in its middle.
 class Form : public Container {
 public:
     Property<std::string> Caption{*this};
+    Property<double> BoardWidth{*this, 0.0};  // pixels; 0: as far as what it holds
+    Property<double> BoardHeight{*this, 0.0};
+    Property<bool> FullScreen{*this, false};  // set by the program, and by the host where the user changes it
+    Event FullScreenChanged;
     const bool Borderless;
     std::vector<Menu*> Menus;
     std::vector<Timer*> Timers;
@@ -53,6 +58,7 @@ public:
     void Unload();  // at most once: takes it from LoadedForms, then raises OnUnload
     void Close();   // the user closes the window: presses its Cancel button or, where it has none, unloads it
     bool Loaded() const;
+    void PropertyAssigned(const void* Which, bool Differs) override;
 };
 
 // All forms that are loaded, the first loaded first.

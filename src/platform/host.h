@@ -62,6 +62,9 @@ public:
     virtual void BringToFront(Form& Which) = 0;  // a window that is shown already
     virtual void SetFocus(Control& Which) = 0;
     virtual void ProcessPendingEvents() = 0;  // once, so that what was shown is painted
+    // The program's own settings, kept between runs; an empty text where there is none of the name.
+    virtual std::string ReadSetting(const std::string& Name) = 0;
+    virtual void WriteSetting(const std::string& Name, const std::string& Value) = 0;
     virtual void EndProcess() = 0;            // asks the event loop to end
 };
 

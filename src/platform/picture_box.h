@@ -16,6 +16,8 @@ public:
     Bitmap Picture;                                   // the inner area, or empty
     std::string Description;                          // what it shows, for a screen reader; set before it is loaded
     Property<int> BorderWidth{*this, 0};              // pixels
+    Property<double> Density{*this, 1.0};             // device pixels for each of the program's
+    Event DensityChanged;
     std::function<void(float X, float Y)> MouseMove;  // the pointer, in user units
 
     PictureBox(Container& TheParent, std::string_view TheName);

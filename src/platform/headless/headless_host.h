@@ -21,6 +21,8 @@ public:
     std::deque<MessageAnswer> Answers;                 // to message boxes, in turn; without one: OK or No
     std::deque<std::optional<std::string>> FileNames;  // given in file dialogs, in turn; without one: Cancel
 
+    std::map<std::string, std::string> Settings;       // and what the program wrote
+
     // --- recorded
     struct ShownMessage {
         MessageBox Box;
@@ -54,6 +56,8 @@ public:
     void BringToFront(Form& Which) override { InFront = &Which; }
     void SetFocus(Control& Which) override { Focus = &Which; }
     void ProcessPendingEvents() override {}
+    std::string ReadSetting(const std::string& Name) override { return Settings[Name]; }
+    void WriteSetting(const std::string& Name, const std::string& Value) override { Settings[Name] = Value; }
     void EndProcess() override { Ended = true; }
 
 private:

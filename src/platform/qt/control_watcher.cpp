@@ -19,14 +19,26 @@ void SetRole(QWidget& Widget, QPalette::ColorRole Role, Color Value) {
     Widget.setPalette(Palette);
 }
 
-ControlWatcher::ControlWatcher(Control& TheRecord, QWidget& TheWidget, std::function<void()> TheShowKind)
-    : Record(TheRecord), Widget(TheWidget), ShowKind(std::move(TheShowKind)) {
+ControlWatcher::ControlWatcher(Control& TheRecord, QWidget& TheWidget, const BoardScale& TheScale,
+                               std::function<void()> TheShowKind)
+    : Record(TheRecord), Widget(TheWidget), Scale(TheScale), ShowKind(std::move(TheShowKind)) {
     Widget.setObjectName(QString::fromStdString(Record.Name));
     ShownFont = Record.CurrentFont();
-    Widget.setFont(InstalledFont(ShownFont));
+    Widget.setFont(ScaledFont());
     Record.Observer = this;
     ControlWatcher::ElementChanged(Record);
+    Following = QObject::connect(&Scale, &BoardScale::Changed, &Widget, [this] {
+        Widget.setFont(ScaledFont());
+        Place();
+    });
 }
+
+ControlWatcher::~ControlWatcher() {
+    QObject::disconnect(Following);
+    Record.Observer = nullptr;
+}
+
+QFont ControlWatcher::ScaledFont() const { return InstalledFont(ShownFont, Scale.Factor(), Scale.LowestLetters()); }
 
 void ControlWatcher::ElementChanged(Element&) {
     if (Writing) return;
@@ -42,34 +54,42 @@ void ControlWatcher::ElementChanged(Element&) {
 void ControlWatcher::ShowFont() {
     if (Record.CurrentFont() == ShownFont) return;
     ShownFont = Record.CurrentFont();
-    Widget.setFont(InstalledFont(ShownFont));
+    Widget.setFont(ScaledFont());
 }
 
 void ControlWatcher::TakeNaturalSize() {
     if (dynamic_cast<Container*>(&Record) != nullptr) return;
     const auto IsFree = [](double Pixels, int LastNatural) { return Pixels == 0.0 || Pixels == LastNatural; };
+    const bool WidthIsFree = IsFree(Record.Width.Pixels(), Natural.width());
+    const bool HeightIsFree = IsFree(Record.Height.Pixels(), Natural.height());
+    if (!WidthIsFree && !HeightIsFree) return;
+    // The program reckons with sizes at scale 1, whatever the scale is.
+    const bool Scaled = Widget.font() != InstalledFont(ShownFont);
+    if (Scaled) Widget.setFont(InstalledFont(ShownFont));
     Writing = true;
-    if (IsFree(Record.Width.Pixels(), Natural.width())) {
+    if (WidthIsFree) {
         Natural.setWidth(Widget.sizeHint().width() - Widget.contentsMargins().left());
         Record.Width.SetPixels(Natural.width());
     }
-    if (IsFree(Record.Height.Pixels(), Natural.height())) {
+    if (HeightIsFree) {
         const int Width = qRound(Record.Width.Pixels());
         Natural.setHeight(Widget.hasHeightForWidth() ? Widget.heightForWidth(Width) : Widget.sizeHint().height());
         Record.Height.SetPixels(Natural.height());
     }
     Writing = false;
+    if (Scaled) Widget.setFont(ScaledFont());
 }
 
 void ControlWatcher::Place() {
     const auto* Holder = dynamic_cast<const PictureBox*>(Record.Parent);
     const int Border = Holder == nullptr ? 0 : Holder->BorderWidth.Get();
-    QRect Box(qRound(Record.Left.Pixels()) + Border, qRound(Record.Top.Pixels()) + Border,
-              qRound(Record.Width.Pixels()), qRound(Record.Height.Pixels()));
+    QRect Box = Scale.Box(Record.Left.Pixels() + Border, Record.Top.Pixels() + Border, Record.Width.Pixels(),
+                          Record.Height.Pixels());
+    QRect Inner;  // of the picture that holds it
+    if (Holder != nullptr) Inner = Scale.Box(Border, Border, Holder->InnerWidth(), Holder->InnerHeight());
     const auto* Text = dynamic_cast<const Label*>(&Record);
-    if (Text != nullptr && !Text->Opaque && !Text->WordWrap) Box = RoomForLetters(Box, Holder != nullptr, Border);
+    if (Text != nullptr && !Text->Opaque && !Text->WordWrap) Box = RoomForLetters(Box, Inner);
     if (Border > 0) {  // what a picture holds stays off its border, and is whole where there is room
-        const QRect Inner(Border, Border, qRound(Record.Parent->InnerWidth()), qRound(Record.Parent->InnerHeight()));
         Box.moveBottom(std::min(Box.bottom(), Inner.bottom()));
         Box &= Inner;
     }
@@ -79,22 +99,21 @@ void ControlWatcher::Place() {
 // A row can be lower than a line of its font, a label at a picture's right edge narrower than its text, and the ink of
 // a first letter begin before its text does. Where that shows on nothing but letters the label reaches over: upward and
 // downward, and to the left as far as the ink needs it. One that fits where it was placed stays there.
-QRect ControlWatcher::RoomForLetters(QRect Box, bool OnPicture, int Border) {
+QRect ControlWatcher::RoomForLetters(QRect Box, const QRect& Inner) {
     auto& Text = dynamic_cast<QLabel&>(Widget);
     const QSize Needed = Text.sizeHint().expandedTo(Box.size());
     const int Missing = Needed.height() - Box.height();
     Box.adjust(0, -(Missing / 2), 0, Missing - Missing / 2);
-    if (!OnPicture) return Box;
+    if (Inner.isEmpty()) return Box;
     const QRect Ink = Text.fontMetrics().tightBoundingRect(Text.text());
-    const bool AtLeftEdge = Box.left() <= Border && Text.alignment().testFlag(Qt::AlignLeft);
+    const bool AtLeftEdge = Box.left() <= Inner.left() && Text.alignment().testFlag(Qt::AlignLeft);
     const int Overhang = AtLeftEdge ? std::max(0, -Ink.left()) : 0;
     Text.setContentsMargins(Overhang, 0, 0, 0);
     // Letters do not touch a border; at an open edge the last letter's soft rim may be cut.
-    const int Edge = qRound(Record.Parent->InnerWidth()) + Border;
-    const int Last = Border > 0 ? Edge - 1 : Edge + 1;
+    const int Last = Inner.right() + (Inner.left() > 0 ? 0 : 2);
     const int InkEnd = Box.left() + Overhang + Ink.right() + 1;
     if (InkEnd > Last) Box.translate(Last - InkEnd, 0);
-    if (Box.left() + Needed.width() > Edge) Box.setRight(Edge - 1);
+    if (Box.left() + Needed.width() > Inner.right() + 1) Box.setRight(Inner.right());
     return Box;
 }
 

@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "platform/control.h"
+#include "platform/qt/board.h"
 
 namespace gloamtide {
 
@@ -21,23 +22,27 @@ void SetRole(QWidget& Widget, QPalette::ColorRole Role, Color Value);
 class ControlWatcher : public ElementObserver {
 public:
     // ShowKind brings over what only controls of this kind have.
-    ControlWatcher(Control& TheRecord, QWidget& TheWidget, std::function<void()> TheShowKind);
-    ~ControlWatcher() override { Record.Observer = nullptr; }
+    ControlWatcher(Control& TheRecord, QWidget& TheWidget, const BoardScale& TheScale,
+                   std::function<void()> TheShowKind);
+    ~ControlWatcher() override;
     ControlWatcher(const ControlWatcher&) = delete;
     ControlWatcher& operator=(const ControlWatcher&) = delete;
 
     void ElementChanged(Element&) override;
 
 private:
+    QFont ScaledFont() const;
     void ShowFont();
     void TakeNaturalSize();
     void Place();
-    QRect RoomForLetters(QRect Box, bool OnPicture, int Border);
+    QRect RoomForLetters(QRect Box, const QRect& Inner);
 
     Control& Record;
     QWidget& Widget;
+    const BoardScale& Scale;
     std::function<void()> ShowKind;
     Font ShownFont;
+    QMetaObject::Connection Following;
     QSize Natural;         // last written into the record
     bool Writing = false;  // the record changes by the watcher's own hand
 };

@@ -14,11 +14,11 @@ const QStringList Families = {"DejaVu Sans Condensed", "Liberation Sans", "Noto 
 
 }  // namespace
 
-QFont InstalledFont(const Font& Named) {
+QFont InstalledFont(const Font& Named, double Scale, int Lowest) {
     QFont Result;
     Result.setFamilies(Families);
     Result.setStyleHint(QFont::SansSerif);
-    Result.setPixelSize(std::max(1, qRound(Named.Size * 96.0 / 72.0)));
+    Result.setPixelSize(std::max(Lowest, qRound(Named.Size * 96.0 / 72.0 * Scale)));
     Result.setBold(Named.Bold);
     Result.setItalic(Named.Italic);
     return Result;

@@ -11,6 +11,7 @@ public:
     MenuWatcher(Menu& TheRecord, QAction& TheAction) : Record(TheRecord), Action(TheAction) {
         Action.setObjectName(QString::fromStdString(Record.Name));
         Action.setMenuRole(QAction::NoRole);
+        Action.setShortcut(QKeySequence(QString::fromStdString(Record.Shortcut)));
         QObject::connect(&Action, &QAction::triggered, &Action, [this, &Item = Record] {
             Show();  // the check mark is the program's to set
             Item.Click();
@@ -50,7 +51,7 @@ void MakeItems(const std::vector<Menu*>& Records, Holder& Parent, Watchers& Watc
             MakeItems(Record->Items, *List, Watching);
             Action = List->menuAction();
         }
-        Watching.push_back(std::make_unique<MenuWatcher>(*Record, *Action));
+        Watching.All.push_back(std::make_unique<MenuWatcher>(*Record, *Action));
     }
 }
 

@@ -6,25 +6,32 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QtMath>
+#include <cmath>
 
 #include "platform/qt/control_watcher.h"
 
 namespace gloamtide {
 
-PictureView::PictureView(PictureBox& TheRecord, QWidget& Parent) : QWidget(&Parent), Record(TheRecord) {
+PictureView::PictureView(PictureBox& TheRecord, QWidget& Parent, const BoardScale& TheScale)
+    : QWidget(&Parent), Record(TheRecord), Scale(TheScale) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
 }
 
 QRect PictureView::InnerArea() const {
-    const int Border = Record.BorderWidth;
+    const int Border = Scale.Place(Record.BorderWidth);
     return rect().adjusted(Border, Border, -Border, -Border);
 }
 
+bool PictureView::IsSharp() const { return std::abs(Record.Density - Scale.Factor() * devicePixelRatioF()) < 1e-6; }
+
 // Many small drawings between two paintings grow one rectangle: a region of thousands of pieces would cost more.
 void PictureView::Repaint(QRect Drawn) {
-    Stale |= Drawn.translated(Record.BorderWidth, Record.BorderWidth);
+    const double ToWidget = Scale.Factor() / Record.Density;
+    const QRectF Pixels(Drawn.x() * ToWidget, Drawn.y() * ToWidget, Drawn.width() * ToWidget,
+                        Drawn.height() * ToWidget);
+    const int Blur = ToWidget == 1.0 ? 0 : 1;  // pixels, by which stretching spreads a pixel
+    Stale |= Pixels.toAlignedRect().adjusted(-Blur, -Blur, Blur, Blur).translated(InnerArea().topLeft());
     update(Stale);
 }
 
@@ -33,22 +40,27 @@ void PictureView::paintEvent(QPaintEvent* Event) {
     QPainter Painter(this);
     const Bitmap& Picture = Record.Picture;
     const QRect Inner = InnerArea();
-    if (Record.BorderWidth > 0) qDrawPlainRect(&Painter, rect(), Qt::darkGray, Record.BorderWidth);
+    if (Record.BorderWidth > 0) qDrawPlainRect(&Painter, rect(), Qt::darkGray, Scale.Place(Record.BorderWidth));
     Painter.setClipRect(Inner & Event->rect());
-    if (Picture.Width < Inner.width() || Picture.Height < Inner.height()) {
+    QImage Image(reinterpret_cast<const uchar*>(Picture.Pixels.data()), Picture.Width, Picture.Height,
+                 qsizetype{Picture.Width} * qsizetype{sizeof(Color)}, QImage::Format_RGBX8888);
+    if (IsSharp()) {
+        Image.setDevicePixelRatio(devicePixelRatioF());
+        const QSizeF Shown = Image.deviceIndependentSize();
+        if (Shown.width() < Inner.width() || Shown.height() < Inner.height()) {
+            Painter.fillRect(Inner, ToQColor(Record.BackColor));
+        }
+        if (!Picture.Empty()) Painter.drawImage(Inner.topLeft(), Image);
+    } else if (Picture.Empty()) {
         Painter.fillRect(Inner, ToQColor(Record.BackColor));
+    } else {
+        Painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        Painter.drawImage(Inner, Image);
     }
-    if (Picture.Empty()) return;
-    const QImage Image(reinterpret_cast<const uchar*>(Picture.Pixels.data()), Picture.Width, Picture.Height,
-                       qsizetype{Picture.Width} * qsizetype{sizeof(Color)}, QImage::Format_RGBX8888);
-    // At twice or three times the density a pixel becomes a square; in between it has to be smoothed.
-    const bool WholePixels = devicePixelRatioF() == qFloor(devicePixelRatioF());
-    Painter.setRenderHint(QPainter::SmoothPixmapTransform, !WholePixels);
-    Painter.drawImage(Inner.topLeft(), Image);
 }
 
 void PictureView::mouseMoveEvent(QMouseEvent* Event) {
-    const QPointF Place = Event->position() - InnerArea().topLeft();
+    const QPointF Place = (Event->position() - InnerArea().topLeft()) / Scale.Factor();
     Record.PointerMoved(Place.x(), Place.y());
 }
 

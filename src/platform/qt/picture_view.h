@@ -4,13 +4,15 @@
 #include <QWidget>
 
 #include "platform/picture_box.h"
+#include "platform/qt/board.h"
 
 namespace gloamtide {
 
-// Paints the record's bitmap straight from its memory and tells the record where the pointer moves.
+// Paints the record's bitmap straight from its memory and tells the record where the pointer moves. A bitmap of another
+// density than the screen has is stretched over the same place.
 class PictureView : public QWidget {
 public:
-    PictureView(PictureBox& TheRecord, QWidget& Parent);
+    PictureView(PictureBox& TheRecord, QWidget& Parent, const BoardScale& TheScale);
 
     // Pixels of the bitmap that are to be painted anew.
     void Repaint(QRect Drawn);
@@ -22,7 +24,11 @@ protected:
 private:
     QRect InnerArea() const;
 
+    // Whether the bitmap has a pixel for each of the screen's; else it is stretched.
+    bool IsSharp() const;
+
     PictureBox& Record;
+    const BoardScale& Scale;
     QRect Stale;  // all that was drawn since the last painting
 };
 

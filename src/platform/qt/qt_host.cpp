@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDeadlineTimer>
+#include <QMenuBar>
 #include <QProxyStyle>
 #include <QScreen>
 #include <QWindow>
@@ -27,6 +28,14 @@ public:
         return QProxyStyle::styleHint(Hint, Option, Widget, Return);
     }
 };
+
+int TitleBarHeight() { return QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight); }
+
+int MenuBarHeight() {
+    QMenuBar Bar;
+    Bar.addMenu("File");
+    return Bar.sizeHint().height();
+}
 
 }  // namespace
 
@@ -57,19 +66,78 @@ QWidget* QtHost::WindowOf(const Form& Which) const {
     return Found == Windows.end() ? nullptr : Found->second;
 }
 
-void QtHost::FillScreen(QWidget& Window) {
-    const QScreen* Screen = QGuiApplication::primaryScreen();
-    const bool Frameless = Window.windowFlags().testFlag(Qt::FramelessWindowHint);
-    // The size comes first: where no window manager runs nothing else makes the window large.
-    Window.setGeometry(Frameless ? Screen->geometry() : Screen->availableGeometry());
-    if (Frameless) {
-        Window.showFullScreen();
+void QtHost::ChooseScreen(const std::vector<ProgramScreen>& Screens) {
+    const QScreen* Desktop = QGuiApplication::primaryScreen();
+    const QSizeF Space = Desktop->availableSize() - QSize(0, MenuBarHeight() + TitleBarHeight());
+    ChosenWidth = Screens.front().Width;
+    for (const ProgramScreen& Each : Screens) {
+        if (ScaleToFit(Each.Board, Space) >= 1.0) ChosenWidth = Each.Width;
+    }
+    const bool Roomy = Desktop->size().width() >= 1280 && Desktop->size().height() >= 720;
+    LowestLetters = Roomy ? 9 : 1;
+}
+
+void QtHost::KeepSettings(const QString& FileName) {
+    Settings = std::make_unique<QSettings>(FileName, QSettings::IniFormat);
+}
+
+std::string QtHost::ReadSetting(const std::string& Name) {
+    return Settings == nullptr ? "" : Settings->value(QString::fromStdString(Name)).toString().toStdString();
+}
+
+void QtHost::WriteSetting(const std::string& Name, const std::string& Value) {
+    if (Settings != nullptr) Settings->setValue(QString::fromStdString(Name), QString::fromStdString(Value));
+}
+
+namespace {
+
+constexpr const char* PlaceSetting = "window/geometry";
+
+// The main window as it was left the last time or, without that, all over the screen; restored, in its middle.
+void PlaceAsLeft(FormWindow& Window, const QByteArray& Left) {
+    if (!Left.isEmpty() && Window.restoreGeometry(Left)) return;
+    const QRect Available = QGuiApplication::primaryScreen()->availableGeometry();
+    QRect Restored(QPoint(), Available.size() * 4 / 5);
+    Restored.moveCenter(Available.center());
+    Window.setGeometry(Restored);
+    Window.setWindowState(Qt::WindowMaximized);
+}
+
+}  // namespace
+
+void QtHost::PrepareMainWindow() {
+    const QScreen* Desktop = QGuiApplication::primaryScreen();
+    const QByteArray Left = Settings == nullptr ? QByteArray() : Settings->value(PlaceSetting).toByteArray();
+    PlaceAsLeft(*MainWindow, Left);
+    if (MainWindow->isFullScreen()) {
+        MainWindow->Expect(Desktop->size());
+    } else if (MainWindow->isMaximized()) {
+        MainWindow->Expect(Desktop->availableSize() - QSize(0, TitleBarHeight()));
     } else {
-        Window.showMaximized();
+        MainWindow->Expect(MainWindow->size());
     }
 }
 
-double QtHost::ScreenWidthTwips() { return QGuiApplication::primaryScreen()->size().width() * TwipsPerPixel; }
+void QtHost::Present(FormWindow& Window) {
+    if (Window.windowFlags().testFlag(Qt::FramelessWindowHint)) {
+        // The size comes first: where no window manager runs nothing else makes the window large.
+        Window.setGeometry(QGuiApplication::primaryScreen()->geometry());
+        Window.showFullScreen();
+        return;
+    }
+    if (MainWindow != nullptr && &Window != MainWindow) {
+        Window.setGeometry(MainWindow->isFullScreen() || MainWindow->isMaximized() ? MainWindow->normalGeometry()
+                                                                                   : MainWindow->geometry());
+        Window.setWindowState(MainWindow->windowState() & ~Qt::WindowMinimized);
+    }
+    Window.show();
+}
+
+double QtHost::ScreenWidthTwips() {
+    const int Width = ChosenWidth > 0 ? ChosenWidth : QGuiApplication::primaryScreen()->size().width();
+    return Width * TwipsPerPixel;
+}
+
 double QtHost::ScreenHeightTwips() { return QGuiApplication::primaryScreen()->size().height() * TwipsPerPixel; }
 DateTime QtHost::SystemTime() { return ToDateTime(QDateTime::currentDateTimeUtc()); }
 DateTime QtHost::LocalTime() { return ToDateTime(QDateTime::currentDateTime()); }
@@ -109,13 +177,22 @@ void QtHost::ShowHelp(const std::string& FileName) {
 GlyphMask QtHost::RenderText(const Font& TheFont, const std::string& Text) { return RenderMask(TheFont, Text); }
 
 void QtHost::FormLoaded(Form& Which) {
-    Windows[&Which] = new FormWindow(
-        Which, [this](QWidget& Window) { FillScreen(Window); }, Gate);
+    auto* Window = new FormWindow(
+        Which, [this](FormWindow& Shown) { Present(Shown); }, Gate);
+    Window->SetLowestLetters(LowestLetters);
+    Windows[&Which] = Window;
+    if (Which.Menus.empty()) return;
+    MainWindow = Window;
+    PrepareMainWindow();
 }
 
 // The window goes later: an event of its own may be under way.
 void QtHost::FormUnloaded(Form& Which) {
     FormWindow* Window = Windows.extract(&Which).mapped();
+    if (Window == MainWindow) {
+        if (Settings != nullptr) Settings->setValue(PlaceSetting, Window->saveGeometry());
+        MainWindow = nullptr;
+    }
     Window->LetGo();
     Window->deleteLater();
 }

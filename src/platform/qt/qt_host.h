@@ -1,6 +1,8 @@
 // The desktop that shows the program with Qt 6 Widgets.
 #pragma once
 
+#include <QSettings>
+#include <QSizeF>
 #include <QWidget>
 #include <map>
 #include <memory>
@@ -10,6 +12,12 @@
 #include "platform/qt/ticks.h"
 
 namespace gloamtide {
+
+// A screen that the program lays out for, and the size of its board there, all in the program's pixels.
+struct ProgramScreen {
+    int Width = 0;
+    QSizeF Board;
+};
 
 // Lives inside a QApplication and is the host in force as long as it lives. Forms must outlive it.
 class QtHost : public Host {
@@ -24,8 +32,16 @@ public:
     // The window of a loaded form, else null.
     QWidget* WindowOf(const Form& Which) const;
 
-    // Shows a window all over the screen, a frameless one over panels and docks too.
-    virtual void FillScreen(QWidget& Window);
+    // Of these, from the narrowest to the widest, the program sees the last whose board fits the desktop's space, the
+    // first where none does. Without this it sees the screen as it is.
+    void ChooseScreen(const std::vector<ProgramScreen>& Screens);
+
+    // Keeps settings, and the main window's size and place, in a file. Without this nothing is kept.
+    void KeepSettings(const QString& FileName);
+
+    // Shows a window: a frameless one all over the screen, a dialog where the main window is, the main window as it was
+    // left, in this run or the last, and as large as the screen the first time.
+    virtual void Present(FormWindow& Window);
 
     double ScreenWidthTwips() override;
     double ScreenHeightTwips() override;
@@ -42,13 +58,20 @@ public:
     void BringToFront(Form& Which) override;
     void SetFocus(Control& Which) override;
     void ProcessPendingEvents() override;
+    std::string ReadSetting(const std::string& Name) override;
+    void WriteSetting(const std::string& Name, const std::string& Value) override;
     void EndProcess() override;
 
 private:
     QWidget* DialogParent() const;
+    void PrepareMainWindow();
 
     TickGate Gate;
     std::map<const Form*, FormWindow*> Windows;
+    FormWindow* MainWindow = nullptr;  // the one with menus
+    std::unique_ptr<QSettings> Settings;
+    int ChosenWidth = 0;            // of the screen that the program sees, pixels; 0: the desktop's
+    int LowestLetters = 1;          // pixels
     std::unique_ptr<QWidget> Help;  // once it was asked for
     bool Ended = false;
 };

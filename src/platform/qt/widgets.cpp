@@ -42,7 +42,7 @@ QString NameOfGroup(const Frame& Group) {
 }
 
 void Watch(Control& Record, QWidget& Widget, Watchers& Watching, std::function<void()> ShowKind) {
-    Watching.push_back(std::make_unique<ControlWatcher>(Record, Widget, std::move(ShowKind)));
+    Watching.All.push_back(std::make_unique<ControlWatcher>(Record, Widget, Watching.Scale, std::move(ShowKind)));
 }
 
 void MakeLabel(Label& Record, QWidget& Parent, Watchers& Watching) {
@@ -150,8 +150,8 @@ void MakeFrame(Frame& Record, QWidget& Parent, Watchers& Watching) {
 // A picture box hears, besides, what is drawn.
 class PictureWatcher : public ControlWatcher {
 public:
-    PictureWatcher(PictureBox& Picture, PictureView& TheWidget)
-        : ControlWatcher(Picture, TheWidget,
+    PictureWatcher(PictureBox& Picture, PictureView& TheWidget, const BoardScale& TheScale)
+        : ControlWatcher(Picture, TheWidget, TheScale,
                          [&Picture, &TheWidget] {
                              SetRole(TheWidget, QPalette::Window, Picture.BackColor);
                              TheWidget.update();
@@ -167,9 +167,9 @@ private:
 };
 
 void MakePictureBox(PictureBox& Record, QWidget& Parent, Watchers& Watching) {
-    auto* Widget = new PictureView(Record, Parent);
+    auto* Widget = new PictureView(Record, Parent, Watching.Scale);
     SetAccessibleName(*Widget, QString::fromStdString(Record.Description));
-    Watching.push_back(std::make_unique<PictureWatcher>(Record, *Widget));
+    Watching.All.push_back(std::make_unique<PictureWatcher>(Record, *Widget, Watching.Scale));
     MakeWidgets(Record, *Widget, Watching);
 }
 

@@ -6,10 +6,15 @@
 #include <vector>
 
 #include "platform/control.h"
+#include "platform/qt/board.h"
 
 namespace gloamtide {
 
-using Watchers = std::vector<std::unique_ptr<ElementObserver>>;
+// The watchers of a window's records, and the scale at which they show them.
+struct Watchers {
+    BoardScale Scale;
+    std::vector<std::unique_ptr<ElementObserver>> All;
+};
 
 // Makes a widget for each control in Holder, and for all that they hold, on Parent; each gets a watcher.
 void MakeWidgets(const Container& Holder, QWidget& Parent, Watchers& Watching);
