@@ -109,11 +109,12 @@ QRect ControlWatcher::RoomForLetters(QRect Box, const QRect& Inner) {
     const bool AtLeftEdge = Box.left() <= Inner.left() && Text.alignment().testFlag(Qt::AlignLeft);
     const int Overhang = AtLeftEdge ? std::max(0, -Ink.left()) : 0;
     Text.setContentsMargins(Overhang, 0, 0, 0);
+    if (Box.right() < Inner.right() - Inner.left()) return Box;
     // Letters do not touch a border; at an open edge the last letter's soft rim may be cut.
     const int Last = Inner.right() + (Inner.left() > 0 ? 0 : 2);
     const int InkEnd = Box.left() + Overhang + Ink.right() + 1;
     if (InkEnd > Last) Box.translate(Last - InkEnd, 0);
-    if (Box.left() + Needed.width() > Inner.right() + 1) Box.setRight(Inner.right());
+    Box.setRight(std::min(Inner.right(), Box.left() + Needed.width() - 1));
     return Box;
 }
 
