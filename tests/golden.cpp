@@ -27,8 +27,9 @@ std::string DifferenceFile(const std::string& Name) {
 void WritePicture(const std::string& Path, const Bitmap& Picture) {
     std::vector<png_byte> Bytes;
     for (const Color Each : Picture.Pixels) {
-        for (const int Level : {RedOf(Each), GreenOf(Each), BlueOf(Each)})
+        for (const int Level : {RedOf(Each), GreenOf(Each), BlueOf(Each)}) {
             Bytes.push_back(static_cast<png_byte>(Level));
+        }
     }
     png_image File{};
     File.version = PNG_IMAGE_VERSION;

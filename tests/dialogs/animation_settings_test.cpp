@@ -27,9 +27,8 @@ protected:
     AnimationForm& F = FormAnimation;
 };
 
-TEST_F(AnimationSettings, CoversTheMainWindowAndShowsTheSettings) {
+TEST_F(AnimationSettings, CoversTheMainWindow) {
     EXPECT_TRUE(F.Visible && FormGTMain.Visible && F.OptionAnimOptionsFwdBack[0].Value);
-    EXPECT_EQ(F.TextStepYears.Text.Get() + F.TextStepDays.Text.Get() + F.TextStepHours.Text.Get(), "001");
     const double Shown = state.CurrentJD;
     Desktop.Advance(2000);
     EXPECT_GT(state.CurrentJD, Shown) << "the clock runs on behind it";
@@ -38,14 +37,11 @@ TEST_F(AnimationSettings, CoversTheMainWindowAndShowsTheSettings) {
 TEST_F(AnimationSettings, OKTakesTheTextsAndKeepsThemInTheFile) {
     F.OptionAnimOptionsFwdBack[1].Value = true;
     OK("-12abc", "", "0.5 hours");
-    EXPECT_EQ(state.AnimYears, -12.0F);
-    EXPECT_EQ(state.AnimDays, 0.0F);
-    EXPECT_EQ(state.AnimHours, 0.5F);
-    EXPECT_EQ(state.AnimForward, False);
+    EXPECT_EQ(std::tuple(state.AnimYears, state.AnimDays, state.AnimHours, state.AnimForward),
+              std::tuple(-12.0F, 0.0F, 0.5F, False));
     EXPECT_EQ(Info(), "-12abcy, d, 0.5 hoursh   Backward");
     EXPECT_EQ(std::filesystem::file_size(Folder / "my.gtf"), 672U);
-    EXPECT_EQ(state.ConfigSaved, True);
-    EXPECT_FALSE(F.Visible);
+    EXPECT_TRUE(!F.Visible && state.ConfigSaved == True);
 }
 
 TEST_F(AnimationSettings, WhatCannotBeKeptIsToldAndStaysInForce) {

@@ -21,8 +21,7 @@ struct Scene {
     DateTime Greenwich;
     const char* Place;
     double Lat;
-    float Long;
-    float Zone;
+    float Long, Zone;
     std::int16_t Daylight;
     Boolean Corrections;
 };

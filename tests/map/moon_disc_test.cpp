@@ -17,10 +17,7 @@ TEST_F(MoonDisc, OfEveryPhase) {
     constexpr float Limits[] = {2.2F,   5.23F,  6.77F,  9.07F, 11.459F, 12.541F,
                                 14.93F, 17.23F, 18.77F, 21.8F, 23.459F, 23.9F};
     std::vector<float> Hours = {0.0F, std::nextafter(0.541F, 0.0F), 0.541F};
-    for (const float Limit : Limits) {
-        Hours.push_back(Limit);
-        Hours.push_back(std::nextafter(Limit, 24.0F));
-    }
+    for (const float Limit : Limits) Hours.insert(Hours.end(), {Limit, std::nextafter(Limit, 24.0F)});
     Hours.push_back(std::nanf(""));
     constexpr int Tile = 20;  // pixels
     Bitmap Sheet(Tile * static_cast<int>(Hours.size()), Tile * 4, 0);

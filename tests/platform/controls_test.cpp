@@ -20,7 +20,6 @@ struct DemoForm : Form {
     PictureBox Picture{*this, "Picture"};
     Label Child{Picture, "Child"};
     CommandButton Cancel{Picture, "Cancel"};
-    Timer Clock{*this, "Clock"};
 };
 
 struct CountingObserver : ElementObserver {
@@ -53,8 +52,7 @@ TEST_F(Controls, AnOptionTakesTheSelectionFromItsNeighboursOnly) {
     Demo.Option[1].Click = [&] { ++Clicks; };
     for (int Time = 0; Time < 2; ++Time) Demo.Option[1].Value = true;
     EXPECT_EQ(Clicks, 1);
-    EXPECT_FALSE(Demo.Option[0].Value);
-    EXPECT_TRUE(Demo.Elsewhere.Value);
+    EXPECT_TRUE(Demo.Elsewhere.Value && !Demo.Option[0].Value);
 }
 
 TEST_F(Controls, ASortedListKeepsItemDataWithItsEntries) {
@@ -121,22 +119,6 @@ TEST_F(Controls, AFormLoadsAndUnloadsOnceAndClosesByItsCancelButton) {
     Demo.Unload();
     EXPECT_EQ(Events, "load cancel unload ");
     EXPECT_TRUE(!Demo.Visible && LoadedForms.empty());
-}
-
-TEST_F(Controls, TheTestClockRaisesTicksInTime) {
-    std::vector<int> Seconds;
-    Demo.Clock.Interval = 1000;
-    Demo.Clock.Tick = [&] {
-        Seconds.push_back(Desktop.System.Second);
-        Demo.Clock.Enabled = Seconds.size() < 3;
-    };
-    Demo.Clock.Enabled = true;
-    Demo.Load();
-    Desktop.System = {2026, 12, 4, 31, 23, 59, 58, 500};
-    Desktop.Advance(10000);
-    EXPECT_EQ(Seconds, (std::vector<int>{59, 0, 1}));
-    EXPECT_EQ(Desktop.System.Year, 2027);
-    EXPECT_EQ(Desktop.System.Second, 8);
 }
 
 }  // namespace
