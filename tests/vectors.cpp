@@ -53,30 +53,23 @@ const Columns<Field> Fields = FIELDS(
 #undef FIELDS
 
 struct Column {
-    bool Input, Text;
-    std::string Name;
-    std::vector<std::string> Members;  // of a group
+    bool Input;
+    std::string Name;  // Number, "Text" or (Some Numbers)*n
 };
-
-// in:Number, in:"Text" or out:(Some Numbers)*n
-Column ReadColumn(std::istream& Header, std::string Word) {
-    Column Result{Word.starts_with("in:"), false, Word.substr(Word.find(':') + 1), {}};
-    std::string& Name = Result.Name;
-    Result.Text = Name[0] == '"';
-    if (Result.Text) Name = Name.substr(1, Name.size() - 2);
-    if (Name[0] != '(') return Result;
-    while (Name.find(')') == std::string::npos && Header >> Word) Name += ' ' + Word;
-    std::istringstream Members(Name.substr(1, Name.find(')') - 1));
-    while (Members >> Word) Result.Members.push_back(Word);
-    return Result;
-}
 
 std::vector<Column> ReadHeader(std::istream& File) {
     std::string Line;
     std::getline(File, Line);
     std::istringstream Header(Line.substr(1));
     std::vector<Column> Result;
-    for (std::string Word; Header >> Word;) Result.push_back(ReadColumn(Header, Word));
+    for (std::string Word; Header >> Word;) {
+        const std::size_t Colon = Word.find(':');
+        if (Colon == std::string::npos) {
+            Result.back().Name += ' ' + Word;
+        } else {
+            Result.push_back({Word.starts_with("in:"), Word.substr(Colon + 1)});
+        }
+    }
     return Result;
 }
 
@@ -86,18 +79,21 @@ double ReadNumber(std::istream& Line) {
     return Number;
 }
 
+void ReadGroup(std::istream& Line, const std::string& Names, VectorValues& Group) {
+    std::istringstream Members(Names);
+    for (std::string Name; Members >> Name;) Group.Numbers.emplace(Name, ReadNumber(Line));
+}
+
 void ReadRow(std::istream& Line, const std::vector<Column>& Header, VectorRow& Row) {
-    for (const Column& Each : Header) {
-        VectorValues& Side = Each.Input ? Row.In : Row.Out;
-        if (Each.Text) {
-            Line >> std::quoted(Side.Texts.emplace(Each.Name, "").first->second);
-        } else if (Each.Members.empty()) {
-            Side.Numbers.emplace(Each.Name, ReadNumber(Line));
-        } else {
+    for (const auto& [Input, Name] : Header) {
+        VectorValues& Side = Input ? Row.In : Row.Out;
+        if (Name[0] == '"') {
+            Line >> std::quoted(Side.Texts.emplace(Name.substr(1, Name.size() - 2), "").first->second);
+        } else if (Name[0] == '(') {
             Row.Groups.resize(static_cast<std::size_t>(Row.Out["n"]));
-            for (VectorValues& Group : Row.Groups) {
-                for (const std::string& Member : Each.Members) Group.Numbers.emplace(Member, ReadNumber(Line));
-            }
+            for (VectorValues& Each : Row.Groups) ReadGroup(Line, Name.substr(1, Name.find(')') - 1), Each);
+        } else {
+            Side.Numbers.emplace(Name, ReadNumber(Line));
         }
     }
     if (!Line || Line.peek() != EOF) throw std::runtime_error(Row.Where + " has not the columns of its table");
@@ -115,17 +111,14 @@ void Put(const std::string& Name, const std::string& Text) {
     if (Fields.contains(Name)) *std::get<std::string*>(Fields[Name]) = Text;
 }
 
-void ExpectClose(const std::string& Name, double Value, double Expected) {
-    EXPECT_NEAR(Value, Expected, 1e-11 * std::abs(Expected)) << Name;
-}
-
-void ExpectClose(const std::string& Name, float Value, double Expected) {
+// Step: what two neighbours of the type differ by, of their size, and a little more.
+void ExpectClose(const std::string& Name, double Value, double Expected, double Step = 1e-11) {
     static const std::map<std::string, double> Tolerances = {{"MoonElongationHours", 4e-6},
                                                              {"MoonMapHour", 4e-6},
                                                              {"SunriseChangeSeconds", 0.005},
                                                              {"SunsetChangeSeconds", 0.005}};
     const auto Own = Tolerances.find(Name);
-    EXPECT_NEAR(Value, Expected, Own != Tolerances.end() ? Own->second : 4e-7 * std::abs(Expected)) << Name;
+    EXPECT_NEAR(Value, Expected, Own != Tolerances.end() ? Own->second : Step * std::abs(Expected)) << Name;
 }
 
 }  // namespace
@@ -135,19 +128,12 @@ void VectorValues::PutIntoState() const {
     for (const auto& [Name, Text] : Texts) Put(Name, Text);
 }
 
-void VectorValues::PutIntoState(const std::vector<std::string>& Names) const {
-    for (const std::string& Name : Names) {
-        if (Numbers.contains(Name)) Put(Name, Numbers[Name]);
-        if (Texts.contains(Name)) Put(Name, Texts[Name]);
-    }
-}
-
 void VectorValues::ExpectInState() const {
     for (const auto& [Name, Value] : Numbers) {
         const auto ExpectOne = [&Name = Name, Expected = Value](const auto* Where) {
             using Type = std::remove_cv_t<std::remove_pointer_t<decltype(Where)>>;
-            if constexpr (std::is_integral_v<Type>) ExpectClose(Name, static_cast<double>(*Where), Expected);
-            if constexpr (std::is_floating_point_v<Type>) ExpectClose(Name, *Where, Expected);
+            const double Step = std::is_same_v<Type, float> ? 4e-7 : 1e-11;
+            if constexpr (std::is_arithmetic_v<Type>) ExpectClose(Name, *Where, Expected, Step);
         };
         if (Fields.contains(Name)) std::visit(ExpectOne, Fields[Name]);
     }

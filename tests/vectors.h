@@ -21,7 +21,6 @@ struct VectorValues {
     int Whole(const std::string& Name) const { return static_cast<int>(Numbers[Name]); }
 
     void PutIntoState() const;
-    void PutIntoState(const std::vector<std::string>& Names) const;
     void ExpectInState() const;
 };
 

@@ -60,7 +60,7 @@ protected:
         ScaleMapPictures();
         for (PictureSurface* Each : FormPictures.WorkPictures()) Each->BackColor = Night;
         FormPictures.PictureDay.BackColor = FormPictures.PictureDaySplit.BackColor = Day;
-        FormPictures.PictureNightSplit.Canvas();
+        Surface.Canvas();
     }
 
     // For the class of screens that the row names, itself or by the map's width.
@@ -70,7 +70,8 @@ protected:
         SetScreen(std::array{640, 800, 1024, 1280}.at(static_cast<std::size_t>(Class)));
     }
 
-    Bitmap& Map = FormPictures.PictureNightSplit.Picture;
+    PictureSurface& Surface = FormPictures.PictureNightSplit;
+    Bitmap& Map = Surface.Picture;
 };
 
 TEST_F(Vectors, RoutinesOfTheState) {
@@ -208,24 +209,32 @@ TEST_F(Vectors, Analemma) {
     });
 }
 
-// The middle of the marker's pixels.
+// On both axes the disc reaches almost as far as its radius, its rays not much farther.
 TEST_F(Vectors, SunMarker) {
     ForEachRow("sun_marker", [this](const VectorRow& R) {
         SetScreenOfRow();
         R.Expect("Eh", SubsolarPointAt(state.CurrentJD).EquationOfTime);
         DrawSunMarker();
-        double Pixels = 0.0;
-        double X = 0.0;
-        double Y = 0.0;
-        for (int Place = 0; Place < Map.Width * Map.Height; ++Place) {
-            if (Map.Pixels[static_cast<std::size_t>(Place)] == Night) continue;
-            Pixels += 1.0;
-            X += Place % Map.Width + 0.5;
-            Y += Place / Map.Width + 0.5;
+        for (const float Off : {-1.7F, -0.85F, 0.85F, 1.7F}) {
+            const double Pixels = Off * state.MarkerRadiusX;
+            const bool Inside = std::abs(Off) < 1.0F;
+            EXPECT_EQ(Surface.Point(R.Out["X"] + Pixels, R.Out["Y"]) != Night, Inside) << Off;
+            EXPECT_EQ(Surface.Point(R.Out["X"], R.Out["Y"] + Pixels * 150.0 / state.MapHeight) != Night, Inside) << Off;
         }
-        EXPECT_NEAR(X / Pixels, state.MapWidth - R.Out["X"], 0.75);
-        EXPECT_NEAR(Y / Pixels, (80.0 - R.Out["Y"]) / 150.0 * state.MapHeight, 0.75);
     });
+}
+
+TEST_F(Vectors, TheHourRulerPrintsItsHoursInTurn) {
+    SetScreen(640);
+    struct Recorder : HeadlessHost {
+        std::string Texts;
+        GlyphMask RenderText(const Font& Which, const std::string& Text) override {
+            Texts += Text;
+            return HeadlessHost::RenderText(Which, Text);
+        }
+    } Printer;
+    DrawZoneHourRuler();
+    EXPECT_EQ(Printer.Texts, "00" /* measured */ "000102030405060708091011121314151617181920212223");
 }
 
 // The headless host's letters are full boxes: a column lies in the middle of its two.
@@ -289,8 +298,11 @@ TEST_F(Vectors, InformationPanel) {
         Panel = (Panel + 1) % 4;
         state = Fresh;
         state.ScreenClass = static_cast<std::int16_t>(Panel);
-        R.In.PutIntoState({"CurrentJD", "OffsetDays", "LocationLat", "LocationLong", "ZoneHours", "DaylightHours",
-                           "LocationName", "ZoneText"});
+        VectorValues Given{{}, R.In.Texts};
+        for (const char* Each :
+             {"CurrentJD", "OffsetDays", "LocationLat", "LocationLong", "ZoneHours", "DaylightHours"})
+            Given.Numbers.emplace(Each, R.In[Each]);
+        Given.PutIntoState();
         RecomputeAlmanac();
         R.In.ExpectInState();
         ExpectCaptions(FormGTMain.PictureGTData[Panel], R.Out.Texts);
@@ -354,6 +366,19 @@ TEST_F(StartedVectors, LocationControls) {
     });
 }
 
+// A city that is picked shows its own place; on the equator and the first meridian that is north and east.
+TEST_F(StartedVectors, CitiesAndTheirHemispheres) {
+    for (int Position = 0; Position < F.ComboCityName.ListCount(); ++Position) {
+        const auto Row = static_cast<std::size_t>(F.ComboCityName.ItemData(Position));
+        F.ComboCityName.Pick(Position);
+        EXPECT_EQ(F.OptionSetLat[1].Value, state.CityLatitude[Row] < 0.0F) << state.CityName[Row];
+        EXPECT_EQ(F.OptionSetLong[1].Value, state.CityLongitude[Row] < 0.0F) << state.CityName[Row];
+    }
+    state.LocationLat = state.LocationLong = 0.0F;
+    FormGTMain.MenuConfigure.Click();
+    EXPECT_TRUE(F.OptionSetLat[0].Value && F.OptionSetLong[0].Value);
+}
+
 TEST_F(StartedVectors, YearText) {
     ForEachRow("year_text", [this](const VectorRow& R) {
         FormGTMain.MenuConfigure.Click();
@@ -415,6 +440,9 @@ TEST_F(Vectors, Sundial) {
         for (const Label& Each : F.LabelHour) Shown += Each.Visible ? 1 : 0;
         EXPECT_EQ(Shown, R.Groups.size());
     });
+    state.SundialHour = 12.0F;  // noon on the equator, the Sun straight above: the shadow has no direction
+    DrawSundialShadow();
+    EXPECT_EQ(state.SunAzimuth, 0.0);
 }
 
 }  // namespace

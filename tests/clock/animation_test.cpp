@@ -30,10 +30,13 @@ TEST_F(Animation, AnHourASecondWithABeepUntilItIsStopped) {
     EXPECT_FALSE(F.Timer1.Enabled);
     Desktop.Advance(999);
     EXPECT_EQ(Desktop.Beeps, 0);
-    state.LocalSecond = state.GreenwichSecond = 41.0F;
+    state.LocalSecond = 41.0F;
+    state.GreenwichSecond = 17.0F;
     Desktop.Advance(4001);
     EXPECT_EQ(Desktop.Beeps, 5);
-    EXPECT_EQ(std::pair(state.LocalSecond, state.GreenwichSecond), std::pair(41.0F, 41.0F)) << "kept by every step";
+    EXPECT_EQ(F.LabelGTLocalTimeShow[0].Caption.Get().substr(6) + F.LabelGreenwichTimeShow[0].Caption.Get().substr(6),
+              "4117    (Universal Time)")
+        << "the seconds are kept by every step";
     EXPECT_NEAR(state.CurrentJD, Begin + 5.0 / 24.0, 1e-9);
     EXPECT_EQ(F.LabelTimeOffsetShow[0].Caption, std::string("0.208  Days"));
     EXPECT_EQ(state.BlinkPhase, True) << "five blinks";
@@ -44,6 +47,19 @@ TEST_F(Animation, AnHourASecondWithABeepUntilItIsStopped) {
     Desktop.Advance(3000);
     EXPECT_EQ(Desktop.Beeps, 5);
     EXPECT_EQ(state.CurrentJD, state.SystemJD + Offset) << "the clock runs on from there";
+}
+
+TEST_F(Animation, YearsAreCountedOnTheClockOfTheLocation) {
+    state.DaylightHours = 1;
+    state.AnimYears = 1.0F;
+    state.AnimHours = 0.0F;
+    F.MenuAnimationSubStart.Click();
+    // 2024 March 1, 0:30, and February 29, 12:30, which becomes March 1.
+    for (const auto& [JD, Days] : {std::pair(2460370.6875, 365.0), std::pair(2460370.1875, 366.0)}) {
+        state.CurrentJD = JD;
+        F.Timer3.Tick();
+        EXPECT_NEAR(state.CurrentJD - JD, Days, 2.0 / 86400.0);
+    }
 }
 
 struct LongRun {

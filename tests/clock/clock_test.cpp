@@ -51,6 +51,7 @@ TEST_F(Clock, TheInstantFollowsTheSystemClockWithItsOffset) {
     Desktop.System = {1970, 1, 4, 1, 0, 0, 0, 700};  // the clock was set back; its milliseconds are dropped
     Desktop.Advance(1000);
     EXPECT_EQ(state.SystemJD, 2440587.5 + 1.0 / 86400.0);
+    EXPECT_EQ(state.BlinkPhase, True) << "91 blinks";
 }
 
 TEST_F(Clock, TheMapMovesOnceAMinute) {

@@ -29,7 +29,9 @@ TEST(NumberPattern, EdgesOfRoundingAndOfNumbers) {
 }
 
 TEST(NumberPattern, PlainNumbers) {
-    EXPECT_EQ(PlainNumber(1.0F) + PlainNumber(0.5F) + PlainNumber(-4000.0F) + PlainNumber(0.1F), "10.5-40000.1");
+    for (const auto& [Value, Text] : {std::pair(0.5F, "0.5"), std::pair(-4000.0F, "-4000"), std::pair(0.1F, "0.1")}) {
+        EXPECT_EQ(PlainNumber(Value), Text);
+    }
 }
 
 }  // namespace
