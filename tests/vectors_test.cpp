@@ -30,8 +30,8 @@
 namespace gloamtide {
 namespace {
 
-constexpr Color Day = RGB(255, 255, 255);
-constexpr Color Night = RGB(0, 0, 3);
+constexpr Color DayColor = RGB(255, 255, 255);
+constexpr Color NightColor = RGB(0, 0, 3);
 
 class Vectors : public ProgramTest {
 protected:
@@ -58,8 +58,8 @@ protected:
         MeasureScreen();
         LayOutMainWindow();
         ScaleMapPictures();
-        for (PictureSurface* Each : FormPictures.WorkPictures()) Each->BackColor = Night;
-        FormPictures.PictureDay.BackColor = FormPictures.PictureDaySplit.BackColor = Day;
+        for (PictureSurface* Each : FormPictures.WorkPictures()) Each->BackColor = NightColor;
+        FormPictures.PictureDay.BackColor = FormPictures.PictureDaySplit.BackColor = DayColor;
         Surface.Canvas();
     }
 
@@ -148,6 +148,10 @@ TEST_F(Vectors, MapShift) {
             EXPECT_EQ(state.MapShift, R.Out[Shift]);
         }
     });
+    state.MapWidth = 580;
+    state.GreenwichHour = 12.0F;  // a whole turn is none
+    RotateMap();
+    EXPECT_EQ(std::pair(state.RotationHour, state.MapShift), std::pair(0.0F, 580));
 }
 
 // Colours the pixels from Left and Top up to, not including, Right and Bottom.
@@ -160,7 +164,7 @@ void Paint(Bitmap& Picture, int Left, int Top, int Right, int Bottom, Color Ink)
 // A block that is given with its size, a negative one upward.
 void PaintStrip(Bitmap& Picture, const VectorValues& Strip) {
     const auto [Top, Bottom] = std::minmax({Strip.Whole("y"), Strip.Whole("y") + Strip.Whole("height")});
-    Paint(Picture, Strip.Whole("x"), Top, Strip.Whole("x") + Strip.Whole("width"), Bottom, Day);
+    Paint(Picture, Strip.Whole("x"), Top, Strip.Whole("x") + Strip.Whole("width"), Bottom, DayColor);
 }
 
 TEST_F(Vectors, DayStrip) {
@@ -186,7 +190,7 @@ TEST_F(Vectors, DayStripsAndRows) {
                 if (Each.Numbers.contains("x"))
                     PaintStrip(Expected, Each);
                 else
-                    Paint(Expected, Each.Whole("first"), Row, Each.Whole("end"), Row + 1, Day);
+                    Paint(Expected, Each.Whole("first"), Row, Each.Whole("end"), Row + 1, DayColor);
                 ++Row;
             }
             RedrawMap();
@@ -218,8 +222,9 @@ TEST_F(Vectors, SunMarker) {
         for (const float Off : {-1.7F, -0.85F, 0.85F, 1.7F}) {
             const double Pixels = Off * state.MarkerRadiusX;
             const bool Inside = std::abs(Off) < 1.0F;
-            EXPECT_EQ(Surface.Point(R.Out["X"] + Pixels, R.Out["Y"]) != Night, Inside) << Off;
-            EXPECT_EQ(Surface.Point(R.Out["X"], R.Out["Y"] + Pixels * 150.0 / state.MapHeight) != Night, Inside) << Off;
+            EXPECT_EQ(Surface.Point(R.Out["X"] + Pixels, R.Out["Y"]) != NightColor, Inside) << Off;
+            EXPECT_EQ(Surface.Point(R.Out["X"], R.Out["Y"] + Pixels * 150.0 / state.MapHeight) != NightColor, Inside)
+                << Off;
         }
     });
 }
@@ -248,7 +253,7 @@ TEST_F(Vectors, HourRuler) {
             for (const float Off : {-Half - 1.5F, -Half + 1.5F, Half - 1.5F, Half + 1.5F}) {
                 const double X = Hour["column"] + Off;
                 const bool Outside = X < 0.0 || X >= state.MapWidth;
-                EXPECT_TRUE(Outside || (Row[static_cast<int>(X)] != Night) == (std::abs(Off) < Half)) << X;
+                EXPECT_TRUE(Outside || (Row[static_cast<int>(X)] != NightColor) == (std::abs(Off) < Half)) << X;
             }
         }
     });
@@ -265,7 +270,7 @@ TEST_F(Vectors, DateBand) {
             Paint(Expected, Left, Bar.Whole("y1"), Right + 1, Bar.Whole("y2") + 1, RGB(225, 225, 127));
         }
         Paint(Band.Picture, R.Out.Whole("clearX1"), R.Out.Whole("clearY1"), R.Out.Whole("clearX2") + 1,
-              R.Out.Whole("clearY2") + 1, Day);  // all this is to be cleared
+              R.Out.Whole("clearY2") + 1, DayColor);  // all this is to be cleared
         DrawDateBand();
         EXPECT_EQ(Band.Picture.Pixels, Expected.Pixels);
     });

@@ -43,9 +43,9 @@ TEST_F(Menus, ShowHideItemsMirrorTheirFlags) {
             Command.Click();
             const Boolean New = Old == True ? False : True;
             EXPECT_EQ(std::tuple(Flag, Command.Checked.Get(), state.ConfigSaved), std::tuple(New, New == True, False));
+            EXPECT_EQ(F.PictureGT.Picture.Pixels != Before.Pixels || F.PictureSundial.Visible, New == True);
         }
         Command.Click();
-        EXPECT_EQ(F.PictureGT.Picture.Pixels, Before.Pixels) << "hidden again leaves the picture as it was";
     }
 }
 
