@@ -28,12 +28,16 @@ TEST_F(Animation, AnHourASecondWithABeepUntilItIsStopped) {
     F.MenuAnimationSubStart.Click();
     EXPECT_TRUE(LabelsShown());
     EXPECT_FALSE(F.Timer1.Enabled);
+    const std::vector<Color>& Map = FormPictures.PictureNightSplit.Picture.Pixels;  // before the marker blinks on it
+    const std::vector<Color> MapBefore = Map;
     Desktop.Advance(999);
     EXPECT_EQ(Desktop.Beeps, 0);
+    EXPECT_EQ(Map, MapBefore);
     state.LocalSecond = 41.0F;
     state.GreenwichSecond = 17.0F;
     Desktop.Advance(4001);
     EXPECT_EQ(Desktop.Beeps, 5);
+    EXPECT_NE(Map, MapBefore);
     EXPECT_EQ(F.LabelGTLocalTimeShow[0].Caption.Get().substr(6) + F.LabelGreenwichTimeShow[0].Caption.Get().substr(6),
               "4117    (Universal Time)")
         << "the seconds are kept by every step";
@@ -83,6 +87,7 @@ TEST_P(LongAnimation, RunsTenThousandStepsOrUpToItsLimit) {
     state.AnimDays = R.Days;
     state.AnimHours = 0.0F;
     F.MenuAnimationSubStart.Click();
+    F.Timer1.Enabled = true;  // as a file that is opened meanwhile leaves it
     double Before = state.CurrentJD;
     for (int Step = 0; Step < 10000 / SanitizedShare && F.Timer3.Enabled; ++Step) {
         F.Timer3.Tick();

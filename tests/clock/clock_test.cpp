@@ -65,9 +65,12 @@ TEST_F(Clock, TheMapMovesOnceAMinute) {
 
 TEST_F(Clock, AtTheUpperLimitTheProgramFreezesWithOneMessage) {
     Start();
-    state.OffsetDays = HighestJD - state.SystemJD - 1.5 / 86400.0;
-    Desktop.Advance(1000);
+    state.OffsetDays = HighestJD - state.SystemJD - 0.5 / 86400.0;
+    FormGTMain.Timer1.Tick();
     EXPECT_TRUE(Desktop.Messages.empty());
+    state.OffsetDays = HighestJD - state.SystemJD;
+    FormGTMain.Timer1.Tick();
+    EXPECT_EQ(Desktop.Messages.size(), 1U);
     Desktop.Advance(5000);
     ASSERT_EQ(Desktop.Messages.size(), 1U);
     EXPECT_EQ(
