@@ -74,7 +74,10 @@ void MeasureScreen() {
     state.MapHeight = Current().MapHeight;
 
     FormPictures.Load();
-    for (PictureSurface* Each : FormPictures.WorkPictures()) Each->Size(state.MapWidth, state.MapHeight);
+    for (PictureSurface* Each : FormPictures.WorkPictures()) {
+        Each->Size(state.MapWidth, state.MapHeight);
+        Each->Density = FormGTMain.PictureGT.Density;
+    }
     FormGTMain.PictureGT.Size(state.MapWidth + 4, state.MapHeight + 4);
     FormGTMain.PictureGTContainer.Size(state.ScreenWidthPx, 1.4 * CurrentPanel().Height + state.MapHeight);
 }

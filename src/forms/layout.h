@@ -21,8 +21,8 @@ struct DialogPlace {
 void PlaceOnForm(Form& Which, Control& Element, const DialogPlace (&Places)[4]);
 
 // Fixes the screen's class and the sizes of the map and of all pictures.
-//   Sets:  ScreenWidthPx, ScreenClass, MapWidth, MapHeight; the sizes of the work pictures, of PictureTZmask,
-//          PictureGT and PictureGTContainer
+//   Sets:  ScreenWidthPx, ScreenClass, MapWidth, MapHeight; the sizes of the work pictures, which take the density
+//          of PictureGT, of PictureTZmask, PictureGT and PictureGTContainer
 void MeasureScreen();
 
 // Lays out the main window for the class of the screen, once, at the start.

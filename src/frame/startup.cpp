@@ -44,6 +44,7 @@ void ConnectHandlers() {
     FormGTMain.MenuFileSubSaveAs.Click = MenuFileSubSaveAs_Click;
     FormGTMain.MenuFileSubQuit.Click = ExitProgram;
     FormGTMain.MenuQuit.Click = ExitProgram;
+    FormGTMain.PictureGT.DensityChanged = FollowDensity;
     FormGTMain.PictureGT.MouseMove = FormGTMain_PictureGT_MouseMove;
     ConnectMenus();
     ConnectConfigure();
