@@ -35,7 +35,7 @@ int ShowProgram() {
     Desktop.KeepSettings(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
                          "/gloamtide/gloamtide.ini");
     std::vector<ProgramScreen> Screens;
-    for (const std::int16_t Class : {0, 1, 2, 3}) {
+    for (std::int16_t Class = 0; Class < 4; ++Class) {
         const BoardSize Board = BoardOf(Class);
         Screens.push_back({ScreenWidthOf(Class), {Board.Width, Board.Height}});
     }

@@ -110,7 +110,10 @@ void MeasureScreen() {
     ShowAlmanac();
 
     FormPictures.Load();
-    for (PictureSurface* Each : FormPictures.WorkPictures()) Each->Size(state.MapWidth, state.MapHeight);
+    for (PictureSurface* Each : FormPictures.WorkPictures()) {
+        Each->Size(state.MapWidth, state.MapHeight);
+        Each->Density = FormGTMain.PictureGT.Density;
+    }
     FormGTMain.PictureGT.Size(state.MapWidth + MapBorders, state.MapHeight + MapBorders);
     FormGTMain.PictureGTContainer.Size(state.ScreenWidthPx, 1.4 * CurrentPanel().Height + state.MapHeight);
 }

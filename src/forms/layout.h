@@ -35,8 +35,8 @@ int ScreenWidthOf(std::int16_t Class);
 void ShowAlmanac();
 
 // Fixes the screen's class and the sizes of the map and of all pictures.
-//   Sets:  ScreenWidthPx, ScreenClass, MapWidth, MapHeight; the sizes of the work pictures, of PictureTZmask,
-//          PictureGT and PictureGTContainer
+//   Sets:  ScreenWidthPx, ScreenClass, MapWidth, MapHeight; the sizes of the work pictures, which take the density
+//          of PictureGT, of PictureTZmask, PictureGT and PictureGTContainer
 void MeasureScreen();
 
 // Lays out the main window for the class of the screen, once, at the start.

@@ -45,6 +45,9 @@ void ConnectHandlers() {
     FormGTMain.MenuFileSubSaveAs.Click = MenuFileSubSaveAs_Click;
     FormGTMain.MenuFileSubQuit.Click = ExitProgram;
     FormGTMain.MenuQuit.Click = ExitProgram;
+    for (PictureSurface* Each : {&FormGTMain.PictureGTContainer, &FormGTMain.PictureGT, &FormGTMain.PictureSundial}) {
+        Each->DensityChanged = FollowDensity;
+    }
     FormGTMain.PictureGT.MouseMove = FormGTMain_PictureGT_MouseMove;
     ConnectMenus();
     ConnectConfigure();

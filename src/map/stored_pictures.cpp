@@ -1,7 +1,9 @@
 #include "map/stored_pictures.h"
 
 #include "assets/assets.h"
+#include "forms/form_gt_main.h"
 #include "forms/form_pictures.h"
+#include "map/day_night.h"
 #include "map/geometry.h"
 #include "map/graticule.h"
 #include "map/zone_lines.h"
@@ -45,6 +47,16 @@ void RebuildMapPictures() {
     ResetMapPictures();
     DrawCityMarks();
     DrawTimeZoneLines();
+}
+
+void FollowDensity() {
+    const MainForm& F = FormGTMain;
+    const double Density = F.PictureGT.Density;
+    const bool AllFollow = F.PictureGTContainer.Density == Density && F.PictureSundial.Density == Density;
+    if (!AllFollow || F.PictureGT.Picture.Empty()) return;
+    for (PictureSurface* Each : FormPictures.WorkPictures()) Each->Density = Density;
+    RebuildMapPictures();
+    RedrawMap();
 }
 
 }  // namespace gloamtide

@@ -15,4 +15,8 @@ void ResetMapPictures();
 //   Reads:  MapType
 void RebuildMapPictures();
 
+// Draws the map anew at the density that FormGTMain.PictureGT was given. The dial and the container have densities of
+// their own, to be set before. Does nothing before the first redraw.
+void FollowDensity();
+
 }  // namespace gloamtide

@@ -17,7 +17,7 @@ class ElementObserver {
 public:
     virtual ~ElementObserver() = default;
     virtual void ElementChanged(Element& Which) = 0;
-    // Pixels Left to Right, Top to Bottom (both ends included) of a picture were drawn on.
+    // Device pixels Left to Right, Top to Bottom (both ends included) of a picture were drawn on.
     virtual void PictureDrawn(int /*Left*/, int /*Top*/, int /*Right*/, int /*Bottom*/) {}
 };
 

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -55,7 +56,10 @@ public:
     virtual std::optional<std::string> ShowOpenDialog(const FileDialog& Dialog) = 0;  // the path; none on Cancel
     virtual std::optional<std::string> ShowSaveDialog(const FileDialog& Dialog) = 0;
     virtual void ShowHelp(const std::string& FileName) = 0;  // does nothing where there is no help
-    virtual GlyphMask RenderText(const Font& TheFont, const std::string& Text) = 0;
+    // In device pixels; Density: device pixels for each of the program's.
+    virtual GlyphMask RenderText(const Font& TheFont, const std::string& Text, double Density) = 0;
+    // A picture in a compressed format, PNG or WebP; empty where the host cannot decode it.
+    virtual Bitmap DecodePicture(std::span<const unsigned char> Bytes) = 0;
 
     virtual void FormLoaded(Form& Which) = 0;    // before its load event; from here on the host watches it
     virtual void FormUnloaded(Form& Which) = 0;  // after its unload event

@@ -8,8 +8,8 @@ namespace gloamtide {
 PictureBox::PictureBox(Container& TheParent, std::string_view TheName) : Container(&TheParent, TheName) {}
 
 Bitmap& PictureBox::Canvas() {
-    const int PixelWidth = std::max(0, static_cast<int>(std::lround(InnerWidth())));
-    const int PixelHeight = std::max(0, static_cast<int>(std::lround(InnerHeight())));
+    const int PixelWidth = std::max(0, static_cast<int>(std::lround(InnerWidth() * Density)));
+    const int PixelHeight = std::max(0, static_cast<int>(std::lround(InnerHeight() * Density)));
     if (Picture.Width != PixelWidth || Picture.Height != PixelHeight) {
         Picture = Bitmap(PixelWidth, PixelHeight, BackColor);
     }
@@ -26,7 +26,15 @@ void PictureBox::PropertyAssigned(const void* Which, bool Differs) {
         std::fill(Picture.Pixels.begin(), Picture.Pixels.end(), BackColor.Get());
         Drawn(0, 0, Picture.Width - 1, Picture.Height - 1);
     }
+    if (Which == &Density && !(Density >= LowestDensity && Density <= HighestDensity)) {
+        Density = LastDensity;
+        return;
+    }
     Container::PropertyAssigned(Which, Differs);
+    if (Density != LastDensity) {
+        LastDensity = Density;
+        DensityChanged();
+    }
 }
 
 }  // namespace gloamtide

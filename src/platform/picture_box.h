@@ -9,15 +9,20 @@
 
 namespace gloamtide {
 
+// A Density outside this range, or that is no number, is not taken.
+constexpr double LowestDensity = 0.25;
+constexpr double HighestDensity = 8.0;
+
 // A picture that can hold controls. It gets its bitmap when it is first drawn on; until then it is all BackColor.
-// Setting BackColor clears the picture to that colour.
+// Setting BackColor clears the picture to that colour. Sizes, places and scales count in pixels as everywhere; only
+// the bitmap is finer: drawn on after Density was set to another value, it begins anew.
 class PictureBox : public Container {
 public:
-    Bitmap Picture;                                   // the inner area, or empty
+    Bitmap Picture;                                   // the inner area in device pixels, or empty
     std::string Description;                          // what it shows, for a screen reader; set before it is loaded
     Property<int> BorderWidth{*this, 0};              // pixels
-    Property<double> Density{*this, 1.0};             // device pixels for each of the program's
-    Event DensityChanged;
+    Property<double> Density{*this, 1.0};             // device pixels for each pixel each way; see LowestDensity
+    Event DensityChanged;                             // raised when Density was set to another value
     std::function<void(float X, float Y)> MouseMove;  // the pointer, in user units
 
     PictureBox(Container& TheParent, std::string_view TheName);
@@ -25,11 +30,15 @@ public:
     double InnerWidth() const override { return Width.Pixels() - 2.0 * BorderWidth; }
     double InnerHeight() const override { return Height.Pixels() - 2.0 * BorderWidth; }
     Bitmap& Canvas();  // the bitmap, made at need
+    // Device pixels From to To, both ends included, were drawn on.
     void Drawn(int FromX, int FromY, int ToX, int ToY) const {
         if (Observer != nullptr) Observer->PictureDrawn(FromX, FromY, ToX, ToY);
     }
     void PointerMoved(double PixelX, double PixelY) const;  // pixels of the inner area
     void PropertyAssigned(const void* Which, bool Differs) override;
+
+private:
+    double LastDensity = 1.0;  // the last that was taken
 };
 
 }  // namespace gloamtide

@@ -207,7 +207,7 @@ Color Blend(Color Under, Color Over, int Coverage) {
 }  // namespace
 
 void PictureSurface::Print(const std::string& Text) {
-    const GlyphMask Mask = host->RenderText(CurrentFont(), Text);
+    const GlyphMask Mask = host->RenderText(CurrentFont(), Text, Density);
     if (const auto Place = PixelAt(CurrentX, CurrentY)) {
         Bitmap& Target = Canvas();
         const int FromX = std::max(0, Place->X);
@@ -228,11 +228,11 @@ void PictureSurface::Print(const std::string& Text) {
 }
 
 double PictureSurface::TextWidth(const std::string& Text) const {
-    return ScaleX.LengthToUnits(host->RenderText(CurrentFont(), Text).Width);
+    return ScaleX.LengthToUnits(host->RenderText(CurrentFont(), Text, 1.0).Width);
 }
 
 double PictureSurface::TextHeight(const std::string& Text) const {
-    return ScaleY.LengthToUnits(host->RenderText(CurrentFont(), Text).Height);
+    return ScaleY.LengthToUnits(host->RenderText(CurrentFont(), Text, 1.0).Height);
 }
 
 void PictureSurface::SetPicture(const Bitmap& Image) {

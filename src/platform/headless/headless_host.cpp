@@ -82,9 +82,11 @@ std::optional<std::string> HeadlessHost::ShowSaveDialog(const FileDialog& Dialog
 }
 
 // Letters are full boxes, blanks are empty ones: enough to tell where a text stands, the same on every machine.
-GlyphMask HeadlessHost::RenderText(const Font& TheFont, const std::string& Text) {
-    const int LetterHeight = std::max(1, static_cast<int>(std::lround(TheFont.Size * 4.0 / 3.0)));
-    const int LetterWidth = std::max(1, LetterHeight / 2);
+GlyphMask HeadlessHost::RenderText(const Font& TheFont, const std::string& Text, double Density) {
+    const auto AtLeastOne = [](double Size) { return std::max(1, static_cast<int>(std::lround(Size))); };
+    const int FlatHeight = AtLeastOne(TheFont.Size * 4.0 / 3.0);  // at density 1
+    const int LetterHeight = AtLeastOne(FlatHeight * Density);
+    const int LetterWidth = AtLeastOne(std::max(1, FlatHeight / 2) * Density);
     GlyphMask Mask{LetterWidth * static_cast<int>(Text.size()), LetterHeight, {}};
     Mask.Coverage.resize(static_cast<std::size_t>(Mask.Width) * static_cast<std::size_t>(Mask.Height));
     for (std::size_t Pixel = 0; Pixel < Mask.Coverage.size(); ++Pixel) {

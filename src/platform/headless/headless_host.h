@@ -50,7 +50,8 @@ public:
     std::optional<std::string> ShowOpenDialog(const FileDialog& Dialog) override;
     std::optional<std::string> ShowSaveDialog(const FileDialog& Dialog) override;
     void ShowHelp(const std::string& FileName) override { HelpFiles.push_back(FileName); }
-    GlyphMask RenderText(const Font& TheFont, const std::string& Text) override;
+    GlyphMask RenderText(const Font& TheFont, const std::string& Text, double Density) override;
+    Bitmap DecodePicture(std::span<const unsigned char>) override { return {}; }
     void FormLoaded(Form&) override {}
     void FormUnloaded(Form&) override {}
     void BringToFront(Form& Which) override { InFront = &Which; }

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDeadlineTimer>
+#include <QImage>
 #include <QMenuBar>
 #include <QProxyStyle>
 #include <QScreen>
@@ -174,7 +175,22 @@ void QtHost::ShowHelp(const std::string& FileName) {
     Help->activateWindow();
 }
 
-GlyphMask QtHost::RenderText(const Font& TheFont, const std::string& Text) { return RenderMask(TheFont, Text); }
+GlyphMask QtHost::RenderText(const Font& TheFont, const std::string& Text, double Density) {
+    Font Larger = TheFont;
+    Larger.Size *= Density;
+    return RenderMask(Larger, Text);
+}
+
+Bitmap QtHost::DecodePicture(std::span<const unsigned char> Bytes) {
+    const QImage Image =
+        QImage::fromData(Bytes.data(), static_cast<int>(Bytes.size())).convertToFormat(QImage::Format_RGBX8888);
+    Bitmap Result(Image.width(), Image.height(), 0);
+    for (int Y = 0; Y < Result.Height; ++Y) {
+        const auto* Row = reinterpret_cast<const Color*>(Image.constScanLine(Y));
+        std::transform(Row, Row + Result.Width, Result.Row(Y), [](Color Opaque) { return Opaque & 0xFFFFFFU; });
+    }
+    return Result;
+}
 
 void QtHost::FormLoaded(Form& Which) {
     auto* Window = new FormWindow(

@@ -52,7 +52,8 @@ public:
     std::optional<std::string> ShowOpenDialog(const FileDialog& Dialog) override;
     std::optional<std::string> ShowSaveDialog(const FileDialog& Dialog) override;
     void ShowHelp(const std::string& FileName) override;
-    GlyphMask RenderText(const Font& TheFont, const std::string& Text) override;
+    GlyphMask RenderText(const Font& TheFont, const std::string& Text, double Density) override;
+    Bitmap DecodePicture(std::span<const unsigned char> Bytes) override;
     void FormLoaded(Form& Which) override;
     void FormUnloaded(Form& Which) override;
     void BringToFront(Form& Which) override;
