@@ -49,8 +49,8 @@ public:
         if (&Which == &FormGTMain) QtHost::FormUnloaded(Which);
     }
 
+    void Prepare(FormWindow& Window) override { Window.FixScale(1.0); }
     void Present(FormWindow& Window) override {
-        Window.FixScale(1.0);
         Window.resize(Asked.ScreenWidth, ScreenHeight());
         Window.show();
     }

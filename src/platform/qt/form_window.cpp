@@ -150,7 +150,8 @@ QSizeF FormWindow::BoardSize() const {
 }
 
 QSizeF FormWindow::Room() const {
-    if (testAttribute(Qt::WA_WState_Created) || Expected.isEmpty()) return Stage->size();
+    if (testAttribute(Qt::WA_WState_Created)) return Stage->size();
+    if (Expected.isEmpty()) return {};
     const int BarHeight = Record.Menus.empty() ? 0 : menuWidget()->sizeHint().height();
     return {1.0 * Expected.width(), 1.0 * Expected.height() - BarHeight};
 }
@@ -158,7 +159,7 @@ QSizeF FormWindow::Room() const {
 void FormWindow::FitBoard() {
     const QSizeF Size = BoardSize();
     const QSizeF Space = Room();
-    if (Space.isEmpty()) return;
+    if (Space.isEmpty() && !FixedScale) return;
     BoardScale& Scale = Watching.Scale;
     Scale.SetFactor(FixedScale.value_or(ScaleToFit(Size, Space)));
     const QSize Shown(Scale.Place(Size.width()), Scale.Place(Size.height()));

@@ -106,16 +106,16 @@ void PlaceAsLeft(FormWindow& Window, const QByteArray& Left) {
 
 }  // namespace
 
-void QtHost::PrepareMainWindow() {
+void QtHost::Prepare(FormWindow& Window) {
     const QScreen* Desktop = QGuiApplication::primaryScreen();
     const QByteArray Left = Settings == nullptr ? QByteArray() : Settings->value(PlaceSetting).toByteArray();
-    PlaceAsLeft(*MainWindow, Left);
-    if (MainWindow->isFullScreen()) {
-        MainWindow->Expect(Desktop->size());
-    } else if (MainWindow->isMaximized()) {
-        MainWindow->Expect(Desktop->availableSize() - QSize(0, TitleBarHeight()));
+    PlaceAsLeft(Window, Left);
+    if (Window.isFullScreen()) {
+        Window.Expect(Desktop->size());
+    } else if (Window.isMaximized()) {
+        Window.Expect(Desktop->availableSize() - QSize(0, TitleBarHeight()));
     } else {
-        MainWindow->Expect(MainWindow->size());
+        Window.Expect(Window.size());
     }
 }
 
@@ -199,7 +199,7 @@ void QtHost::FormLoaded(Form& Which) {
     Windows[&Which] = Window;
     if (Which.Menus.empty()) return;
     MainWindow = Window;
-    PrepareMainWindow();
+    Prepare(*Window);
 }
 
 // The window goes later: an event of its own may be under way.

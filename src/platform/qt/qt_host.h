@@ -39,6 +39,9 @@ public:
     // Keeps settings, and the main window's size and place, in a file. Without this nothing is kept.
     void KeepSettings(const QString& FileName);
 
+    // Before the main window is laid out: gives it its place, and the scale that it will have there.
+    virtual void Prepare(FormWindow& Window);
+
     // Shows a window: a frameless one all over the screen, a dialog where the main window is, the main window as it was
     // left, in this run or the last, and as large as the screen the first time.
     virtual void Present(FormWindow& Window);
@@ -65,7 +68,6 @@ public:
 
 private:
     QWidget* DialogParent() const;
-    void PrepareMainWindow();
 
     TickGate Gate;
     std::map<const Form*, FormWindow*> Windows;
