@@ -4,11 +4,10 @@
 #include <QIcon>
 #include <QPixmap>
 #include <QStandardPaths>
-#include <vector>
 
 #include "app/command_line.h"
+#include "app/screens.h"
 #include "assets/assets.h"
-#include "forms/layout.h"
 #include "frame/startup.h"
 #include "platform/qt/qt_host.h"
 
@@ -34,12 +33,7 @@ int ShowProgram() {
         QString::fromUtf8(reinterpret_cast<const char*>(HelpText.data()), static_cast<qsizetype>(HelpText.size()));
     Desktop.KeepSettings(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
                          "/gloamtide/gloamtide.ini");
-    std::vector<ProgramScreen> Screens;
-    for (std::int16_t Class = 0; Class < 4; ++Class) {
-        const BoardSize Board = BoardOf(Class);
-        Screens.push_back({ScreenWidthOf(Class), {Board.Width, Board.Height}});
-    }
-    Desktop.ChooseScreen(Screens);
+    Desktop.ChooseScreen(ProgramScreens(), QtHost::LargestWindow());
     StartProgram();
     return Desktop.Run();
 }

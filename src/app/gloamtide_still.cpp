@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QBuffer>
+#include <QPainter>
 #include <QPixmap>
 #include <algorithm>
 #include <cerrno>
@@ -12,9 +13,12 @@
 #include <system_error>
 
 #include "app/command_line.h"
+#include "app/screens.h"
 #include "app/still_options.h"
 #include "forms/form_gt_main.h"
+#include "forms/layout.h"
 #include "frame/startup.h"
+#include "platform/qt/picture_view.h"
 #include "platform/qt/qt_host.h"
 #include "state/state.h"
 #include "storage/files.h"
@@ -24,14 +28,18 @@ namespace {
 using namespace gloamtide;
 
 constexpr const char* Program = "gloamtide-still";
+constexpr int DefaultWidth = 1280;  // of the screen, pixels
 
 // A desktop with a screen and a clock as asked for, whose messages go to standard error.
 class StillHost : public QtHost {
 public:
     explicit StillHost(const StillOptions& TheAsked) : Asked(TheAsked) {}
 
-    double ScreenWidthTwips() override { return Asked.ScreenWidth * TwipsPerPixel; }
-    double ScreenHeightTwips() override { return ScreenHeight() * TwipsPerPixel; }
+    double ScreenWidthTwips() override {
+        const bool ByTheSize = !Asked.ScreenWidth && !Asked.Size.isEmpty();
+        return ByTheSize ? QtHost::ScreenWidthTwips() : Asked.ScreenWidth.value_or(DefaultWidth) * TwipsPerPixel;
+    }
+    double ScreenHeightTwips() override { return WindowSize().height() * TwipsPerPixel; }
     DateTime SystemTime() override { return ToDateTime(Asked.At); }
     DateTime LocalTime() override { return ToDateTime(Asked.At); }
     void Beep() override {}
@@ -49,18 +57,52 @@ public:
         if (&Which == &FormGTMain) QtHost::FormUnloaded(Which);
     }
 
-    void Prepare(FormWindow& Window) override { Window.FixScale(1.0); }
+    // A picture of a given size is that of a window; without one the layout stands pixel for pixel.
+    void Prepare(FormWindow& Window) override {
+        if (Asked.Size.isEmpty() || Asked.OnlyMap) {
+            Window.FixScale(1.0);
+        } else {
+            Window.Expect(Asked.Size);
+        }
+    }
     void Present(FormWindow& Window) override {
-        Window.resize(Asked.ScreenWidth, ScreenHeight());
+        Window.resize(WindowSize());
         Window.show();
     }
 
 private:
-    // Screens are three quarters as high as wide up to this.
-    int ScreenHeight() const { return std::min(Asked.ScreenWidth * 3 / 4, 1080); }
+    // Screens are three quarters as high as wide up to 1080.
+    QSize WindowSize() const {
+        const int Width = Asked.ScreenWidth.value_or(DefaultWidth);
+        return Asked.Size.isEmpty() ? QSize(Width, std::min(Width * 3 / 4, 1080)) : Asked.Size;
+    }
 
     const StillOptions& Asked;
 };
+
+// The map alone, in the middle of a picture of the given size or, where that is empty, with nothing round it.
+QPixmap MapAlone(FormWindow& Window, const QSize& Size) {
+    if (!Size.isEmpty()) {
+        Window.FixScale(std::min(1.0 * Size.width() / state.MapWidth, 1.0 * Size.height() / state.MapHeight));
+    }
+    auto* Map = Window.findChild<PictureView*>("PictureGT");
+    const QPixmap Shown = Map->grab(Map->InnerArea());
+    if (Size.isEmpty()) return Shown;
+    QPixmap Result(Size);
+    Result.fill(Qt::black);
+    QPainter(&Result).drawPixmap((Size.width() - Shown.width()) / 2, (Size.height() - Shown.height()) / 2, Shown);
+    return Result;
+}
+
+// The screens as the choice of one for a picture of the map alone needs them: with the map for the board.
+std::vector<ProgramScreen> MapScreens() {
+    std::vector<ProgramScreen> Screens = ProgramScreens();
+    for (ProgramScreen& Each : Screens) {
+        const BoardSize Map = MapSizeOf(ScreenClassOf(Each.Width));
+        Each.Board = {Map.Width, Map.Height};
+    }
+    return Screens;
+}
 
 void WritePicture(const QPixmap& Picture, const std::string& Path) {
     QBuffer Encoded;
@@ -114,8 +156,10 @@ void MakePicture(const StillOptions& Asked) {
     StillHost Desktop(Asked);
     state.StartupSource = Asked.Configuration.empty() ? ConfigurationSource::Defaults : ConfigurationSource::NamedFile;
     state.ConfigFilePath = Asked.Configuration;
+    if (!Asked.Size.isEmpty()) Desktop.ChooseScreen(Asked.OnlyMap ? MapScreens() : ProgramScreens(), Asked.Size);
     StartProgram();
-    WritePicture(Desktop.WindowOf(FormGTMain)->grab(), Asked.Picture);
+    FormWindow& Window = *Desktop.WindowOf(FormGTMain);
+    WritePicture(Asked.OnlyMap ? MapAlone(Window, Asked.Size) : Window.grab(), Asked.Picture);
     if (Asked.Almanac) Print(AlmanacText());
 }
 
@@ -131,6 +175,7 @@ int main(int Count, char** Arguments) {
         ParseArguments(Parser, Count, Arguments);
         if (AnswersQuestion(Parser, StillHelp)) return 0;
         const StillOptions Asked = ReadStillOptions(Parser);
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(Asked.Scale));
         const QApplication Application(OnlyName, Arguments);
         MakePicture(Asked);
         return 0;

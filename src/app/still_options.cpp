@@ -12,6 +12,10 @@ const char* const StillHelp =
     "  --at TIME              show this instant, Greenwich time, such as 2026-12-21T20:50:00Z;\n"
     "                         without it, the present\n"
     "  --screen-width PIXELS  lay out for a screen of this width, 320 to 32767; without it, 1280\n"
+    "                         or, with --size, what suits the size\n"
+    "  --scale SCALE          so many pixels for each one of the layout, 0.5 to 8; without it, 1\n"
+    "  --size WIDTHxHEIGHT    a picture of this size, 64x64 to 16384x16384, as a window of it looks\n"
+    "  --only-map             the map without menu bar, dates and almanac\n"
     "  --almanac              print the headings and values of the almanac, too\n"
     "  --help, --version      print this help, or the version, and end\n";
 
@@ -31,19 +35,44 @@ QDateTime TimeOf(const QString& Text) {
     return Result;
 }
 
+// A text as a number of pixels; 0 where it is none from Least to Most.
+int PixelsOf(const QString& Text, int Least, int Most) {
+    const int Pixels = Text.toInt();
+    return Pixels >= Least && Pixels <= Most ? Pixels : 0;
+}
+
 int WidthOf(const QString& Text) {
-    constexpr int Narrowest = 320;  // pixels
-    constexpr int Widest = 32767;
+    const int Width = PixelsOf(Text, 320, 32767);
+    if (Width == 0) throw UsageError("--screen-width takes 320 to 32767 pixels, not " + Text);
+    return Width;
+}
+
+double ScaleOf(const QString& Text) {
     bool IsNumber = false;
-    const int Width = Text.toInt(&IsNumber);
-    if (IsNumber && Width >= Narrowest && Width <= Widest) return Width;
-    throw UsageError(QString("--screen-width takes %1 to %2 pixels, not ").arg(Narrowest).arg(Widest) + Text);
+    const double Scale = Text.toDouble(&IsNumber);
+    if (!IsNumber || !(Scale >= 0.5 && Scale <= 8.0)) throw UsageError("--scale takes 0.5 to 8, not " + Text);
+    return Scale;
+}
+
+QSize SizeOf(const QString& Text) {
+    const QStringList Parts = Text.split('x');
+    const QSize Size(PixelsOf(Parts.value(0), 64, 16384), PixelsOf(Parts.value(1), 64, 16384));
+    if (Parts.size() != 2 || Size.isEmpty()) {
+        throw UsageError("--size takes a size such as 3840x2160, from 64x64 to 16384x16384, not " + Text);
+    }
+    return Size;
 }
 
 }  // namespace
 
 void AddStillOptions(QCommandLineParser& Parser) {
-    Parser.addOptions({{"config", "", "FILE"}, {"at", "", "TIME"}, {"screen-width", "", "PIXELS"}, {"almanac", ""}});
+    Parser.addOptions({{"config", "", "FILE"},
+                       {"at", "", "TIME"},
+                       {"screen-width", "", "PIXELS"},
+                       {"scale", "", "SCALE"},
+                       {"size", "", "SIZE"},
+                       {"only-map", ""},
+                       {"almanac", ""}});
 }
 
 StillOptions ReadStillOptions(const QCommandLineParser& Parser) {
@@ -51,6 +80,10 @@ StillOptions ReadStillOptions(const QCommandLineParser& Parser) {
     Result.Configuration = ToBytes(ValueOf(Parser, "config"));
     if (const QString Text = ValueOf(Parser, "at"); !Text.isEmpty()) Result.At = TimeOf(Text);
     if (const QString Text = ValueOf(Parser, "screen-width"); !Text.isEmpty()) Result.ScreenWidth = WidthOf(Text);
+    if (const QString Text = ValueOf(Parser, "scale"); !Text.isEmpty()) Result.Scale = ScaleOf(Text);
+    if (const QString Text = ValueOf(Parser, "size"); !Text.isEmpty()) Result.Size = SizeOf(Text);
+    if (Parser.isSet("scale") && Parser.isSet("size")) throw UsageError("--scale and --size exclude each other");
+    Result.OnlyMap = Parser.isSet("only-map");
     Result.Almanac = Parser.isSet("almanac");
     const QStringList Rest = Parser.positionalArguments();
     if (Rest.size() > 1) throw UsageError("more than one picture named");

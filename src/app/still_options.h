@@ -3,6 +3,8 @@
 
 #include <QCommandLineParser>
 #include <QDateTime>
+#include <QSize>
+#include <optional>
 #include <string>
 
 namespace gloamtide {
@@ -10,7 +12,10 @@ namespace gloamtide {
 struct StillOptions {
     std::string Configuration;  // path, or empty for the defaults
     QDateTime At = QDateTime::currentDateTimeUtc();
-    int ScreenWidth = 1280;  // pixels
+    std::optional<int> ScreenWidth;  // of the screen to lay out for, pixels
+    double Scale = 1.0;              // device pixels for each of the program's
+    QSize Size;                      // of the picture, or empty: as the screen's width and the scale give it
+    bool OnlyMap = false;
     bool Almanac = false;
     std::string Picture;  // path
 };

@@ -85,6 +85,11 @@ BoardSize BoardOf(std::int16_t Class) {
     return {1.0 * ScreenWidthOf(Class), std::ceil(Height)};
 }
 
+BoardSize MapSizeOf(std::int16_t Class) {
+    const ClassLayout& Layout = Layouts[static_cast<std::size_t>(Class)];
+    return {1.0 * Layout.MapWidth, 1.0 * Layout.MapHeight};
+}
+
 void ShowAlmanac() {
     const bool Shown = extras.AlmanacShown == True;
     CurrentPanel().Visible = Shown;

@@ -26,6 +26,7 @@ struct BoardSize {
     double Height;
 };
 BoardSize BoardOf(std::int16_t Class);
+BoardSize MapSizeOf(std::int16_t Class);  // of the map on it alone
 
 // The width of the narrowest screen of a class, but for the first: of the one that it was made for. Pixels.
 int ScreenWidthOf(std::int16_t Class);

@@ -137,6 +137,7 @@ void FormWindow::Expect(const QSize& TheRoom) {
 void FormWindow::FixScale(double Factor) {
     FixedScale = Factor;
     FitBoard();
+    SharpenPictures();
 }
 
 QSizeF FormWindow::BoardSize() const {

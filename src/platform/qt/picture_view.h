@@ -14,6 +14,8 @@ class PictureView : public QWidget {
 public:
     PictureView(PictureBox& TheRecord, QWidget& Parent, const BoardScale& TheScale);
 
+    QRect InnerArea() const;  // within the border
+
     // Pixels of the bitmap that are to be painted anew.
     void Repaint(QRect Drawn);
 
@@ -22,8 +24,6 @@ protected:
     void mouseMoveEvent(QMouseEvent* Event) override;
 
 private:
-    QRect InnerArea() const;
-
     // Whether the bitmap has a pixel for each of the screen's; else it is stretched.
     bool IsSharp() const;
 

@@ -62,19 +62,20 @@ QtHost::~QtHost() {
 
 int QtHost::Run() const { return Ended ? 0 : QApplication::exec(); }
 
-QWidget* QtHost::WindowOf(const Form& Which) const {
+FormWindow* QtHost::WindowOf(const Form& Which) const {
     const auto Found = Windows.find(&Which);
     return Found == Windows.end() ? nullptr : Found->second;
 }
 
-void QtHost::ChooseScreen(const std::vector<ProgramScreen>& Screens) {
-    const QScreen* Desktop = QGuiApplication::primaryScreen();
-    const QSizeF Space = Desktop->availableSize() - QSize(0, MenuBarHeight() + TitleBarHeight());
+QSize QtHost::LargestWindow() { return QGuiApplication::primaryScreen()->availableSize() - QSize(0, TitleBarHeight()); }
+
+void QtHost::ChooseScreen(const std::vector<ProgramScreen>& Screens, const QSize& Window) {
+    const QSizeF Space = Window - QSize(0, MenuBarHeight());
     ChosenWidth = Screens.front().Width;
     for (const ProgramScreen& Each : Screens) {
         if (ScaleToFit(Each.Board, Space) >= 1.0) ChosenWidth = Each.Width;
     }
-    const bool Roomy = Desktop->size().width() >= 1280 && Desktop->size().height() >= 720;
+    const bool Roomy = Window.width() >= 1280 && Window.height() >= 720 - TitleBarHeight() - MenuBarHeight();
     LowestLetters = Roomy ? 9 : 1;
 }
 
@@ -113,7 +114,7 @@ void QtHost::Prepare(FormWindow& Window) {
     if (Window.isFullScreen()) {
         Window.Expect(Desktop->size());
     } else if (Window.isMaximized()) {
-        Window.Expect(Desktop->availableSize() - QSize(0, TitleBarHeight()));
+        Window.Expect(LargestWindow());
     } else {
         Window.Expect(Window.size());
     }

@@ -30,11 +30,12 @@ public:
     int Run() const;  // the event loop, until the program ends the process; returns the exit code
 
     // The window of a loaded form, else null.
-    QWidget* WindowOf(const Form& Which) const;
+    FormWindow* WindowOf(const Form& Which) const;
 
-    // Of these, from the narrowest to the widest, the program sees the last whose board fits the desktop's space, the
-    // first where none does. Without this it sees the screen as it is.
-    void ChooseScreen(const std::vector<ProgramScreen>& Screens);
+    // Of these, from the narrowest to the widest, the program sees the last whose board fits under a menu bar into a
+    // window of this size, the first where none does. Without this it sees the screen as it is.
+    void ChooseScreen(const std::vector<ProgramScreen>& Screens, const QSize& Window);
+    static QSize LargestWindow();  // that the desktop has room for, without its title bar
 
     // Keeps settings, and the main window's size and place, in a file. Without this nothing is kept.
     void KeepSettings(const QString& FileName);
