@@ -153,18 +153,14 @@ TEST_F(DayNight, TheOverlayFlagsSelectTheCachedPair) {
                               {True, True, &F.PictureTZCitiesDay, &F.PictureTZCitiesNight}};
     Color Shade = 1;
     for (const Choice& C : Choices) {
-        for (PictureSurface* Each : {C.DaySource, C.NightSource}) {
-            Each->Canvas();
-            Each->BackColor = Shade++;
-        }
-    }
-    Shade = 1;
-    for (const Choice& C : Choices) {
         state.ShowCities = C.Cities;
         state.ShowTimezones = C.Timezones;
-        RedrawMap();
-        EXPECT_EQ(FormGTMain.PictureGT.Picture.Row(150)[290], Shade++);
-        EXPECT_EQ(FormGTMain.PictureGT.Picture.Row(150)[5], Shade++);
+        for (const auto& [Source, X] : {std::pair(C.DaySource, 290), std::pair(C.NightSource, 5)}) {
+            Source->Canvas();
+            Source->BackColor = ++Shade;
+            RedrawMap();
+            EXPECT_EQ(FormGTMain.PictureGT.Picture.Row(150)[X], Shade);
+        }
     }
 }
 

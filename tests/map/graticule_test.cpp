@@ -27,13 +27,20 @@ protected:
 TEST_F(Graticule, CitiesStandInTheFourPicturesThatShowThem) {
     PicturesForm& F = FormPictures;
     const Color Yellow = RGB(255, 255, 0);
-    for (const PictureSurface* With :
-         {&F.PictureCitiesDay, &F.PictureCitiesNight, &F.PictureTZCitiesDay, &F.PictureTZCitiesNight}) {
-        EXPECT_GT(CountOf(With->Picture, Yellow), 1200) << "350 marks of five pixels, some on top of others";
-        EXPECT_EQ(With->Point(LongitudeToMapX(-81.67F), 41.47F), static_cast<long>(Yellow)) << "Cleveland";
-    }
-    for (const PictureSurface* Without : {&F.PictureDay, &F.PictureNight, &F.PictureTZDay, &F.PictureTZNight}) {
-        EXPECT_EQ(CountOf(Without->Picture, Yellow), 0);
+    for (const Boolean Zones : {False, True}) {
+        state.ShowTimezones = Zones;
+        state.ShowCities = True;
+        RedrawMap();
+        for (const PictureSurface* With : {Zones == True ? &F.PictureTZCitiesDay : &F.PictureCitiesDay,
+                                           Zones == True ? &F.PictureTZCitiesNight : &F.PictureCitiesNight}) {
+            EXPECT_GT(CountOf(With->Picture, Yellow), 1200) << "350 marks of five pixels, some on top of others";
+            EXPECT_EQ(With->Point(LongitudeToMapX(-81.67F), 41.47F), static_cast<long>(Yellow)) << "Cleveland";
+        }
+        state.ShowCities = False;
+        RedrawMap();
+        for (const PictureSurface* Without : {&F.PictureDay, &F.PictureNight, &F.PictureTZDay, &F.PictureTZNight}) {
+            EXPECT_EQ(CountOf(Without->Picture, Yellow), 0);
+        }
     }
 }
 

@@ -104,10 +104,12 @@ TEST_F(CachedPictures, TakeTheMapTypeAndKeepTheSeaFlat) {
         const Color Sea = F.PictureNight.Picture.Row(300)[100];
         EXPECT_EQ(Sea, Type == 0 ? RGB(0, 10, 54) : RGB(0, 0, 3));
         EXPECT_EQ(F.PictureDay.Picture.Row(300)[100], DaySea);
-        for (const PictureSurface* Copy :
-             {&F.PictureCitiesDay, &F.PictureTZDay, &F.PictureTZCitiesDay, &F.PictureDaySplit}) {
-            EXPECT_EQ(Copy->Picture.Pixels, F.PictureDay.Picture.Pixels);
-        }
+        state.ShowCities = True;  // whose table is empty here
+        EXPECT_EQ(ShownMapPictures().Day.Picture.Pixels, F.PictureDay.Picture.Pixels);
+        EXPECT_EQ(&ShownMapPictures().Night, &F.PictureCitiesNight);
+        state.ShowCities = False;
+        EXPECT_EQ(&ShownMapPictures().Day, &F.PictureDay);
+        EXPECT_TRUE(F.PictureCitiesDay.Picture.Empty()) << "what is not shown goes";
     }
     const Bitmap Before = F.PictureDay.Picture;
     state.MapType = 2;  // no such map: nothing changes
