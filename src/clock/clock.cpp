@@ -82,7 +82,7 @@ void FormGTMain_Timer2_Timer() {
 }
 
 void FormGTMain_Timer4_Timer() {
-    RebuildMapPictures();
+    ResetMapPictures();
     state.ConfigSaved = False;
     RedrawMap();
     FormGTMain.LabelWorking.Visible = false;

@@ -22,7 +22,7 @@ void OpenConfiguration(const std::string& Path) {
     state.ConfigFilePath = state.ConfigOpenPath;
     SelectZoneRow();
     ShowChecks();
-    if (state.MapType != state.MapTypeShown) RebuildMapPictures();
+    if (state.MapType != state.MapTypeShown) ResetMapPictures();
     ShowAnimationSettings();
     ReadSystemClock();
     state.CurrentJD = state.OffsetDays + state.SystemJD;

@@ -19,7 +19,6 @@
 #include "frame/file_commands.h"
 #include "frame/menus.h"
 #include "map/day_night.h"
-#include "map/graticule.h"
 #include "map/mouse_probe.h"
 #include "map/stored_pictures.h"
 #include "map/zone_lines.h"
@@ -139,7 +138,7 @@ void FormGTMain_Form_Load() {
     FormGTMain.LabelAnimSteps.Visible = false;
     FormGTMain.CmdAnimStop.Visible = false;
 
-    // The tables, and what is drawn once into the cached pictures.
+    // The tables.
     BuildZoneTable();
     FillConfigureLists();
     BuildCityTable();
@@ -147,8 +146,7 @@ void FormGTMain_Form_Load() {
     LoadMoonNames();
     LoadMottos();
     ScaleMapPictures();
-    DrawCityMarks();
-    DrawTimeZoneLines();
+    LoadZoneLines();
 
     // The instant, all that follows from it, and the clock.
     ReadSystemClock();

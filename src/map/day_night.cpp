@@ -1,5 +1,7 @@
 #include "map/day_night.h"
 
+#include <algorithm>
+
 #include "astro/degrees.h"
 #include "forms/form_gt_main.h"
 #include "forms/form_pictures.h"
@@ -7,6 +9,7 @@
 #include "map/graticule.h"
 #include "map/hour_ruler.h"
 #include "map/moon_disc.h"
+#include "map/stored_pictures.h"
 #include "map/sun_overlays.h"
 #include "state/numbers.h"
 #include "sundial/dial.h"
@@ -14,29 +17,20 @@
 namespace gloamtide {
 namespace {
 
-// A picture rotated by MapShift has at column p what the source has at column p + MapShift, modulo MapWidth.
-void RotatePicture(PictureSurface& Rotated, PictureSurface& Source) {
-    const int Unmoved = state.MapWidth - state.MapShift;
-    BitBlt(Rotated, Unmoved, 0, state.MapShift, state.MapHeight, Source, 0, 0);
-    BitBlt(Rotated, 0, 0, Unmoved, state.MapHeight, Source, state.MapShift, 0);
+void RotateDayAndNight() {
+    const auto [Day, Night] = ShownMapPictures();
+    RotateColumns(FormPictures.PictureDaySplit, Day, state.MapShift);
+    RotateColumns(FormPictures.PictureNightSplit, Night, state.MapShift);
 }
 
-void RotateDayAndNight() {
-    PicturesForm& F = FormPictures;
-    PictureSurface* Day = &F.PictureDay;
-    PictureSurface* Night = &F.PictureNight;
-    if (state.ShowCities == True && state.ShowTimezones == True) {
-        Day = &F.PictureTZCitiesDay;
-        Night = &F.PictureTZCitiesNight;
-    } else if (state.ShowCities == True) {
-        Day = &F.PictureCitiesDay;
-        Night = &F.PictureCitiesNight;
-    } else if (state.ShowTimezones == True) {
-        Day = &F.PictureTZDay;
-        Night = &F.PictureTZNight;
-    }
-    RotatePicture(F.PictureDaySplit, *Day);
-    RotatePicture(F.PictureNightSplit, *Night);
+// Where the lit span lies at StripLatitude. Sets StripTop, DayHalfWidth, StripLeftX, StripRightX.
+void PlaceDayStrip() {
+    state.StripTop = LatitudeToPixelY(state.StripLatitude);
+    // The supplement of the half-day arc. The clamp of ArcCosDeg makes polar day and polar night.
+    const double A = ArcCosDeg(state.TanSunDeclination / TanDeg(90.0F - state.StripLatitude));
+    state.DayHalfWidth = Single(181.0 - A);
+    state.StripRightX = LongitudeToMapX(-state.DayHalfWidth) - state.EquationOfTimeMapShift;
+    state.StripLeftX = LongitudeToMapX(state.DayHalfWidth) - state.EquationOfTimeMapShift;
 }
 
 // Strips from the latitude First to the latitude Last, included when reached; the step is added in single precision.
@@ -49,23 +43,44 @@ void LayBand(float First, float Last, float Step, double Height) {
     }
 }
 
+// The end of the Earth that lies in polar night, or the map's end before it. Beyond it nothing is lit.
+void StartStrips() {
+    state.StripStartLatitude = state.SunDeclination <= 0.0 ? std::min(Single(state.SunDeclination + 90.0), 80.0F)
+                                                           : std::max(Single(state.SunDeclination - 90.0), -70.0F);
+}
+
 // From the end of the Earth that lies in polar night to the other end of the map. The strips are a little higher than
 // the steps between them, so that they leave no gaps; beyond 50 degrees, where the terminator bends, they are finer.
 void LayDayStrips() {
     const double FineHeight = state.MapHeight / 250.0;
     const double CoarseHeight = state.MapHeight / 170.0;
     if (state.SunDeclination <= 0.0) {
-        state.StripStartLatitude = Single(state.SunDeclination + 90.0);
-        if (state.StripStartLatitude >= 80.0F) state.StripStartLatitude = 80.0F;
         LayBand(state.StripStartLatitude, 50.0F, -0.4F, FineHeight);
         LayBand(50.0F, -50.0F, -0.75F, CoarseHeight);
         LayBand(-50.0F, -70.0F, -0.4F, FineHeight);
     } else {
-        state.StripStartLatitude = Single(state.SunDeclination - 90.0);
-        if (state.StripStartLatitude <= -70.0F) state.StripStartLatitude = -70.0F;
         LayBand(state.StripStartLatitude, -50.0F, 0.4F, -FineHeight);
         LayBand(-50.0F, 50.0F, 0.75F, -CoarseHeight);
         LayBand(50.0F, 80.0F, 0.4F, -FineHeight);
+    }
+}
+
+// At any other density the strips would show as steps: each row of device pixels is a strip of its own, reckoned at
+// the latitude of its middle, with its ends on device pixels.
+void LayDayRows() {
+    PictureSurface& Night = FormPictures.PictureNightSplit;
+    const double Density = Night.Density;
+    const int Rows = Night.Canvas().Height;
+    state.StripHeight = Single(1.0 / Density);
+    for (int Row = 0; Row < Rows; ++Row) {
+        state.StripLatitude = Single(80.0 - (Row + 0.5) / Density * 150.0 / state.MapHeight);
+        const bool Lit = state.SunDeclination <= 0.0 ? state.StripLatitude <= state.StripStartLatitude
+                                                     : state.StripLatitude >= state.StripStartLatitude;
+        if (!Lit) continue;
+        PlaceDayStrip();
+        const int Left = ToInt32(state.StripLeftX * Density);
+        const int Right = ToInt32(state.StripRightX * Density);
+        BitBltDevice(Night, Left, Row, std::int64_t{Right} - Left, 1, FormPictures.PictureDaySplit, Left, Row);
     }
 }
 
@@ -85,12 +100,7 @@ void DrawOverlays() {
 }  // namespace
 
 void BlitDayStrip() {
-    state.StripTop = LatitudeToPixelY(state.StripLatitude);
-    // The supplement of the half-day arc. The clamp of ArcCosDeg makes polar day and polar night.
-    const double A = ArcCosDeg(state.TanSunDeclination / TanDeg(90.0F - state.StripLatitude));
-    state.DayHalfWidth = Single(181.0 - A);
-    state.StripRightX = LongitudeToMapX(-state.DayHalfWidth) - state.EquationOfTimeMapShift;
-    state.StripLeftX = LongitudeToMapX(state.DayHalfWidth) - state.EquationOfTimeMapShift;
+    PlaceDayStrip();
     // Map pixels, not map units: the span lies symmetrically about the middle of the map.
     const int Left = ToInt32(state.StripLeftX);
     const int Top = ToInt32(state.StripTop);
@@ -102,7 +112,12 @@ void BlitDayStrip() {
 void RedrawMap() {
     RotateMap();
     RotateDayAndNight();
-    LayDayStrips();
+    StartStrips();
+    if (FormPictures.PictureNightSplit.Density == 1.0) {
+        LayDayStrips();
+    } else {
+        LayDayRows();
+    }
     DrawOverlays();
     FormGTMain.PictureGT.SetPicture(FormPictures.PictureNightSplit.Picture);
 }

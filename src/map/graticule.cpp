@@ -12,6 +12,7 @@ void DrawCityMarks() {
     const Color Yellow = QBColor(14);
     for (PictureSurface* Each :
          {&F.PictureCitiesDay, &F.PictureCitiesNight, &F.PictureTZCitiesDay, &F.PictureTZCitiesNight}) {
+        if (Each->Picture.Empty()) continue;
         Each->FillColor = Yellow;
         Each->FillStyle = FillStyles::Solid;
         for (std::size_t City = 1; City <= static_cast<std::size_t>(state.CityCount); ++City) {

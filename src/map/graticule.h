@@ -3,7 +3,7 @@
 
 namespace gloamtide {
 
-// Marks every city in the four cached pictures that show cities, in the map's unrotated position.
+// Marks every city in the cached pictures that show cities, as far as they exist, in the map's unrotated position.
 //   Reads:  CityLongitude, CityLatitude, CityCount, CityMarkerRadius
 void DrawCityMarks();
 

@@ -77,6 +77,7 @@ void DrawTimeZoneLines() {
         {F.PictureTZCitiesNight, ZoneByNight, DateByNight},
     };
     for (const LinePicture& Each : Pictures) {
+        if (Each.Picture.Picture.Empty()) continue;
         DrawTable(Each.Picture, state.ZoneLinePoints, Each.ZoneColor);
         DrawTable(Each.Picture, state.DateLinePoints, Each.DateColor);
     }

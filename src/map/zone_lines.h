@@ -7,7 +7,7 @@ namespace gloamtide {
 //   Sets:  ZoneLinePoints (1139 rows from 1, 54 lines), DateLinePoints (18 rows from 1, 3 lines)
 void LoadZoneLines();
 
-// Draws both into the four cached pictures that show zones, in the map's unrotated position.
+// Draws both into the cached pictures that show zones, as far as they exist, in the map's unrotated position.
 //   Sets:  ZoneLinePoints, DateLinePoints
 void DrawTimeZoneLines();
 

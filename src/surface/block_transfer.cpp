@@ -18,7 +18,7 @@ struct CopyAxis {
     std::int64_t Length;
 
     // Turns a negative length round and cuts off what lies outside either surface.
-    CopyAxis(int TheTo, int TheFrom, int TheLength, int ToSize, int FromSize)
+    CopyAxis(std::int64_t TheTo, std::int64_t TheFrom, std::int64_t TheLength, int ToSize, int FromSize)
         : To(TheTo), From(TheFrom), Length(TheLength) {
         if (Length < 0) {
             To += Length;
@@ -32,10 +32,30 @@ struct CopyAxis {
     }
 };
 
+// Device pixels from Start on.
+struct Extent {
+    std::int64_t Start;
+    std::int64_t Length;
+};
+
+// What some of a surface's pixels take up. Extents that meet in pixels meet here, and the whole is the whole.
+Extent DeviceExtent(const PictureSurface& Surface, double Start, double Length) {
+    const auto At = [&](double Pixel) { return std::int64_t{std::llround(Pixel * Surface.Density)}; };
+    return {At(Start), At(Start + Length) - At(Start)};
+}
+
 }  // namespace
 
 void BitBlt(PictureSurface& Destination, int X, int Y, int Width, int Height, PictureSurface& Source, int SourceX,
             int SourceY) {
+    const Extent Columns = DeviceExtent(Destination, X, Width);
+    const Extent Rows = DeviceExtent(Destination, Y, Height);
+    BitBltDevice(Destination, Columns.Start, Rows.Start, Columns.Length, Rows.Length, Source,
+                 DeviceExtent(Source, SourceX, 0.0).Start, DeviceExtent(Source, SourceY, 0.0).Start);
+}
+
+void BitBltDevice(PictureSurface& Destination, std::int64_t X, std::int64_t Y, std::int64_t Width, std::int64_t Height,
+                  PictureSurface& Source, std::int64_t SourceX, std::int64_t SourceY) {
     Bitmap& To = Destination.Canvas();
     Bitmap& From = Source.Canvas();
     const CopyAxis Columns(X, SourceX, Width, To.Width, From.Width);
@@ -54,6 +74,13 @@ void BitBlt(PictureSurface& Destination, int X, int Y, int Width, int Height, Pi
     }
     Destination.Drawn(static_cast<int>(Columns.To), static_cast<int>(Rows.To),
                       static_cast<int>(Columns.To + Columns.Length - 1), static_cast<int>(Rows.To + Rows.Length - 1));
+}
+
+void RotateColumns(PictureSurface& Rotated, PictureSurface& Source, int Shift) {
+    const Bitmap& Target = Rotated.Canvas();
+    const int Moved = std::clamp(static_cast<int>(std::lround(Shift * Rotated.Density)), 0, Target.Width);
+    BitBltDevice(Rotated, Target.Width - Moved, 0, Moved, Target.Height, Source, 0, 0);
+    BitBltDevice(Rotated, 0, 0, Target.Width - Moved, Target.Height, Source, Moved, 0);
 }
 
 namespace {
@@ -107,16 +134,20 @@ struct StretchAxis {
     int FirstInside;
     std::vector<Mix> Mixes;
 
-    StretchAxis(int To, int Length, int ToSize, int From, int FromLength, int FromSize) : FirstInside(std::max(To, 0)) {
-        const std::int64_t End = std::min<std::int64_t>(static_cast<std::int64_t>(To) + Length, ToSize);
-        const int Lowest = std::max(From, 0);
-        const int Beyond =
-            static_cast<int>(std::min<std::int64_t>(static_cast<std::int64_t>(From) + FromLength, FromSize));
-        const auto SourcePlace = [=](double Step) { return From + Step * FromLength / Length; };
+    StretchAxis(Extent To, int ToSize, Extent From, int FromSize)
+        : FirstInside(static_cast<int>(std::clamp<std::int64_t>(To.Start, 0, ToSize))) {
+        const std::int64_t End = std::min<std::int64_t>(To.Start + To.Length, ToSize);
+        const int Lowest = static_cast<int>(std::clamp<std::int64_t>(From.Start, 0, FromSize));
+        const int Beyond = static_cast<int>(std::clamp<std::int64_t>(From.Start + From.Length, 0, FromSize));
+        const auto SourcePlace = [=](double Step) {
+            return static_cast<double>(From.Start) +
+                   Step * static_cast<double>(From.Length) / static_cast<double>(To.Length);
+        };
         for (std::int64_t Place = FirstInside; Place < End; ++Place) {
-            const double Step = static_cast<double>(Place - To);
-            Mixes.push_back(FromLength >= Length ? Covered(SourcePlace(Step), SourcePlace(Step + 1.0), Lowest, Beyond)
-                                                 : Between(SourcePlace(Step + 0.5), Lowest, Beyond));
+            const double Step = static_cast<double>(Place - To.Start);
+            Mixes.push_back(From.Length >= To.Length
+                                ? Covered(SourcePlace(Step), SourcePlace(Step + 1.0), Lowest, Beyond)
+                                : Between(SourcePlace(Step + 0.5), Lowest, Beyond));
         }
     }
 };
@@ -153,12 +184,16 @@ void StretchBlt(PictureSurface& Destination, int X, int Y, int Width, int Height
     Bitmap& To = Destination.Canvas();
     const Bitmap From = &Source == &Destination ? Source.Canvas() : Bitmap();
     const Bitmap& FromPixels = &Source == &Destination ? From : Source.Canvas();
-    const StretchAxis Columns(X, Width, To.Width, SourceX, SourceWidth, FromPixels.Width);
-    const StretchAxis Rows(Y, Height, To.Height, SourceY, SourceHeight, FromPixels.Height);
+    const StretchAxis Columns(DeviceExtent(Destination, X, Width), To.Width, DeviceExtent(Source, SourceX, SourceWidth),
+                              FromPixels.Width);
+    const StretchAxis Rows(DeviceExtent(Destination, Y, Height), To.Height, DeviceExtent(Source, SourceY, SourceHeight),
+                           FromPixels.Height);
     std::vector<std::vector<WidePixel>> Stretched(static_cast<std::size_t>(FromPixels.Height));
+    std::size_t Passed = 0;  // the rows of the source that no further row needs
     for (std::size_t Row = 0; Row < Rows.Mixes.size(); ++Row) {
         const Mix& Vertical = Rows.Mixes[Row];
         if (Vertical.Weights.empty()) continue;
+        while (Passed < static_cast<std::size_t>(Vertical.First)) Stretched[Passed++] = {};
         for (std::size_t Step = 0; Step < Vertical.Weights.size(); ++Step) {
             const std::size_t Needed = static_cast<std::size_t>(Vertical.First) + Step;
             if (Stretched[Needed].empty())

@@ -20,7 +20,7 @@ Color QBColor(int Index) {
     return Index >= 0 && Index < 16 ? Palette[static_cast<std::size_t>(Index)] : RGB(0, 0, 0);
 }
 
-// A position in whole pixels, at most FarthestPixel from the origin; perhaps outside the bitmap.
+// A position in whole device pixels, at most FarthestPixel from the origin; perhaps outside the bitmap.
 struct PictureSurface::PixelPoint {
     int X = 0;
     int Y = 0;
@@ -29,18 +29,28 @@ struct PictureSurface::PixelPoint {
 namespace {
 
 constexpr double FarthestPixel = 536870912.0;  // 2 to the 29th: products of two distances fit 64 bits
-constexpr int DotPeriod = 3;                   // pixels from one dot of a dotted line to the next
-constexpr int WidestPen = 32;                  // pixels
+constexpr double DotPeriod = 3.0;              // pixels from one dot of a dotted line to the next
+constexpr int WidestPen = 32;                  // device pixels
 
 int PixelOf(double Place) { return ToInt32(std::floor(std::clamp(Place, -FarthestPixel, FarthestPixel))); }
 
 }  // namespace
 
 std::optional<PictureSurface::PixelPoint> PictureSurface::PixelAt(double X, double Y) const {
-    const double PixelX = ScaleX.ToPixels(X);
-    const double PixelY = ScaleY.ToPixels(Y);
+    const double PixelX = ScaleX.ToPixels(X) * Density;
+    const double PixelY = ScaleY.ToPixels(Y) * Density;
     if (!std::isfinite(PixelX) || !std::isfinite(PixelY)) return std::nullopt;
     return PixelPoint{PixelOf(PixelX), PixelOf(PixelY)};
+}
+
+// The last device pixel of what begins with this pixel and is one pixel long.
+int PictureSurface::LastPixel(double Pixel) const {
+    if (Density == 1.0) return PixelOf(Pixel);  // the sum could round up
+    return std::max(PixelOf((Pixel + 1.0) * Density) - 1, PixelOf(Pixel * Density));
+}
+
+int PictureSurface::PenOf(int Pixels) const {
+    return ToInt32(std::clamp(std::round(Pixels * Density), 1.0, static_cast<double>(WidestPen)));
 }
 
 void PictureSurface::FillPixels(int FromX, int FromY, int ToX, int ToY, Color Filling) {
@@ -54,28 +64,30 @@ void PictureSurface::FillPixels(int FromX, int FromY, int ToX, int ToY, Color Fi
     Drawn(FromX, FromY, ToX, ToY);
 }
 
-void PictureSurface::Dot(Bitmap& Target, int X, int Y, Color DotColor) {
-    if (DrawWidth > 1) {
-        const int Pen = std::min(DrawWidth, WidestPen);
-        const int FromX = X - (Pen - 1) / 2;
-        const int FromY = Y - (Pen - 1) / 2;
-        FillPixels(FromX, FromY, FromX + Pen - 1, FromY + Pen - 1, DotColor);
-    } else if (X >= 0 && Y >= 0 && X < Target.Width && Y < Target.Height) {
-        Target.Row(Y)[X] = DotColor;
-        Drawn(X, Y, X, Y);
-    }
+// Pens of an even width reach one device pixel farther to the right and down.
+void PictureSurface::Dot(PixelPoint Place, int Pen, Color DotColor) {
+    const int FromX = Place.X - (Pen - 1) / 2;
+    const int FromY = Place.Y - (Pen - 1) / 2;
+    FillPixels(FromX, FromY, FromX + Pen - 1, FromY + Pen - 1, DotColor);
 }
 
 // Goes along the longer axis, only where the bitmap is, and reckons the other coordinate afresh at each pixel: so a
 // line looks the same however much of it is clipped, and in whichever direction it is drawn.
 void PictureSurface::Stroke(PixelPoint From, PixelPoint To, Color LineColor) {
-    Bitmap& Target = Canvas();
+    const Bitmap& Target = Canvas();
+    const int Pen = PenOf(DrawWidth);
     const bool Steep = std::abs(To.Y - From.Y) > std::abs(To.X - From.X);
     if (Steep ? From.Y > To.Y : From.X > To.X) std::swap(From, To);
     const std::int64_t Start = Steep ? From.Y : From.X;
     const std::int64_t Length = (Steep ? To.Y : To.X) - Start;
     const std::int64_t OtherStart = Steep ? From.X : From.Y;
     const std::int64_t Rise = (Steep ? To.X : To.Y) - OtherStart;
+    if (Rise == 0 && DrawStyle == DrawStyles::Solid) {
+        const int Before = (Pen - 1) / 2;
+        const int After = Pen - 1 - Before;
+        FillPixels(From.X - Before, From.Y - Before, To.X + After, To.Y + After, LineColor);
+        return;
+    }
     const std::int64_t Edge = Steep ? Target.Height : Target.Width;
     const std::int64_t First = std::max<std::int64_t>(0, -WidestPen - Start);
     const std::int64_t Last = std::min(Length, Edge - 1 + WidestPen - Start);
@@ -84,6 +96,8 @@ void PictureSurface::Stroke(PixelPoint From, PixelPoint To, Color LineColor) {
     const std::int64_t Doubled = 2 * First * Rise + Length;
     std::int64_t Other = OtherStart + Doubled / Divisor - (Doubled % Divisor < 0 ? 1 : 0);
     std::int64_t Rest = Doubled - (Other - OtherStart) * Divisor - 2 * Rise;
+    const double Period = DrawStyle == DrawStyles::Dotted ? DotPeriod * Density : 1.0;
+    double NextDot = std::ceil(static_cast<double>(First) / Period);
     for (std::int64_t Step = First; Step <= Last; ++Step) {
         Rest += 2 * Rise;
         if (Rest >= Divisor) {
@@ -93,10 +107,11 @@ void PictureSurface::Stroke(PixelPoint From, PixelPoint To, Color LineColor) {
             Rest += Divisor;
             --Other;
         }
-        if (DrawStyle == DrawStyles::Dotted && Step % DotPeriod != 0) continue;
+        if (static_cast<double>(Step) < NextDot * Period) continue;
+        ++NextDot;
         const int Along = static_cast<int>(Start + Step);
         const int Across = static_cast<int>(Other);
-        Dot(Target, Steep ? Across : Along, Steep ? Along : Across, LineColor);
+        Dot(Steep ? PixelPoint{Across, Along} : PixelPoint{Along, Across}, Pen, LineColor);
     }
 }
 
@@ -117,8 +132,9 @@ void PictureSurface::Line(double X1, double Y1, double X2, double Y2, Color Line
             Stroke({From->X, To->Y}, *From, LineColor);
             break;
         case LineForm::BoxFilled:
-            FillPixels(std::min(From->X, To->X), std::min(From->Y, To->Y), std::max(From->X, To->X),
-                       std::max(From->Y, To->Y), LineColor);
+            FillPixels(std::min(From->X, To->X), std::min(From->Y, To->Y),
+                       LastPixel(std::max(ScaleX.ToPixels(X1), ScaleX.ToPixels(X2))),
+                       LastPixel(std::max(ScaleY.ToPixels(Y1), ScaleY.ToPixels(Y2))), LineColor);
             break;
     }
 }
@@ -128,32 +144,43 @@ void PictureSurface::LineTo(double X, double Y, Color LineColor) { Line(CurrentX
 void PictureSurface::PSet(double X, double Y, Color DotColor) {
     CurrentX = X;
     CurrentY = Y;
-    if (const auto Place = PixelAt(X, Y)) Dot(Canvas(), Place->X, Place->Y, DotColor);
+    if (const auto Place = PixelAt(X, Y)) Dot(*Place, PenOf(DrawWidth), DotColor);
 }
 
 void PictureSurface::PSetStep(double StepX, double StepY, Color DotColor) {
     PSet(CurrentX + StepX, CurrentY + StepY, DotColor);
 }
 
+namespace {
+
+// The largest column of an ellipse, half-axes A and B, in a row above or below its centre, or -1.
+int HalfWidth(double A, double B, int Row) {
+    const double Rest = 1.0 - static_cast<double>(Row) * Row / (B * B + B);
+    return Rest > 0.0 ? ToInt32(std::ceil(std::sqrt(Rest * (A * A + A)))) - 1 : -1;
+}
+
+}  // namespace
+
 // The shape is all pixels whose distances from the centre pixel obey x*x / (a*a + a) + y*y / (b*b + b) < 1, half-axes a
-// and b in pixels: round, without single pixels sticking out, and symmetrical about the centre pixel.
+// and b in pixels: round, without single pixels sticking out, and symmetrical about the centre pixel. The outline's pen
+// goes along the half-axes, so half of it lies outside; what it leaves of the shape is smaller by the pen.
 void PictureSurface::Ellipse(double X, double Y, double Radius, double Aspect, Color LineColor, bool Filled,
                              const std::function<bool(int, int)>& OnArc) {
     CurrentX = X;
     CurrentY = Y;
     const auto Centre = PixelAt(X, Y);
     const double Longer = ScaleX.LengthToPixels(Radius);
-    const double A = std::min(Aspect > 1.0 ? Longer / Aspect : Longer, FarthestPixel);
-    const double B = std::min(Aspect < 1.0 ? Longer * Aspect : Longer, FarthestPixel);
     if (!Centre || !std::isfinite(Longer) || !(Aspect > 0.0)) return;
+    const int Pen = PenOf(1);
     if (Longer < 1.0) {
-        if (OnArc(0, 0)) FillPixels(Centre->X, Centre->Y, Centre->X, Centre->Y, LineColor);
+        if (OnArc(0, 0)) Dot(*Centre, Pen, LineColor);
         return;
     }
-    const auto HalfWidth = [&](int Row) {  // the largest x of the shape in a row above or below the centre, or -1
-        const double Rest = 1.0 - static_cast<double>(Row) * Row / (B * B + B);
-        return Rest > 0.0 ? ToInt32(std::ceil(std::sqrt(Rest * (A * A + A)))) - 1 : -1;
-    };
+    const auto HalfAxis = [&](double Pixels) { return std::min(Pixels * Density + (Pen - 1) / 2.0, FarthestPixel); };
+    const double A = HalfAxis(Aspect > 1.0 ? Longer / Aspect : Longer);
+    const double B = HalfAxis(Aspect < 1.0 ? Longer * Aspect : Longer);
+    const double InnerA = std::max(A - (Pen - 1), 0.0);
+    const double InnerB = std::max(B - (Pen - 1), 0.0);
     const Bitmap& Target = Canvas();
     const int Reach = ToInt32(std::floor(std::sqrt(B * B + B)));
     const int FirstRow = std::max(-Reach, -Centre->Y);
@@ -165,9 +192,10 @@ void PictureSurface::Ellipse(double X, double Y, double Radius, double Aspect, C
                 if (OnArc(Each - Centre->X, Row)) FillPixels(Each, RowY, Each, RowY, LineColor);
             }
         };
-        const int Outer = HalfWidth(std::abs(Row));
+        const int Outer = HalfWidth(A, B, std::abs(Row));
         if (Outer < 0) continue;
-        const int Inner = std::min(HalfWidth(std::abs(Row) + 1) + 1, Outer);  // where the row's outline begins
+        // Where the row's outline begins.
+        const int Inner = std::min(HalfWidth(InnerA, InnerB, std::abs(Row) + 1) + 1, std::max(Outer - (Pen - 1), 0));
         if (Filled) FillPixels(Centre->X - Outer, RowY, Centre->X + Outer, RowY, FillColor);
         Outline(Centre->X - Outer, Centre->X - Inner);
         Outline(Centre->X + Inner, Centre->X + Outer);
@@ -188,8 +216,8 @@ void PictureSurface::Arc(double X, double Y, double Radius, Color LineColor, dou
 
 long PictureSurface::Point(double X, double Y) const {
     const auto Place = PixelAt(X, Y);
-    const bool Inside = Place && Place->X >= 0 && Place->Y >= 0 && Place->X < std::lround(InnerWidth()) &&
-                        Place->Y < std::lround(InnerHeight());
+    const bool Inside = Place && Place->X >= 0 && Place->Y >= 0 && Place->X < std::lround(InnerWidth() * Density) &&
+                        Place->Y < std::lround(InnerHeight() * Density);
     if (!Inside) return -1;
     const bool Blank = Place->X >= Picture.Width || Place->Y >= Picture.Height;
     return static_cast<long>(Blank ? BackColor.Get() : Picture.Row(Place->Y)[Place->X]);
@@ -224,7 +252,7 @@ void PictureSurface::Print(const std::string& Text) {
         if (FromX < EndX && FromY < EndY) Drawn(FromX, FromY, EndX - 1, EndY - 1);
     }
     CurrentX = ScaleX.Origin;
-    CurrentY += Mask.Height * ScaleY.Units / ScaleY.Pixels;
+    CurrentY += Mask.Height / Density * ScaleY.Units / ScaleY.Pixels;
 }
 
 double PictureSurface::TextWidth(const std::string& Text) const {

@@ -3,8 +3,13 @@
 // A point belongs to the pixel that it lies in: column floor((x - x1) / (x2 - x1) * width), rows likewise from the
 // top. Every operation takes any number: what lies outside the bitmap is not drawn, a coordinate that is not a finite
 // number draws nothing, and no call takes longer than the bitmap is large.
+//
+// Whatever the density, coordinates and sizes count in user units or in the program's pixels. They become device
+// pixels at the last step: column floor(pixel * density). A dot is a square of the density's size, a pen is as many
+// device pixels wide as its width times the density rounds to, at least one.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -31,7 +36,8 @@ public:
 
     using PictureBox::PictureBox;
 
-    // A line, both ends included; Box outlines the rectangle between the corners, BoxFilled fills it, edges included.
+    // A line, both ends included; Box outlines the rectangle between the corners, BoxFilled fills it, edges included:
+    // boxes of which one begins a pixel after the other ends meet at every density.
     void Line(double X1, double Y1, double X2, double Y2, Color LineColor, LineForm Form = LineForm::Plain);
     void LineTo(double X, double Y, Color LineColor);  // from the current point
 
@@ -53,14 +59,16 @@ public:
     double TextWidth(const std::string& Text) const;   // user units
     double TextHeight(const std::string& Text) const;  // user units
 
-    // Shows a picture whole, taking the surface's size or part of it from the top left corner.
+    // Shows a picture whole, device pixel for device pixel: as much of it as the surface holds, from the top left.
     void SetPicture(const Bitmap& Image);
 
 private:
     struct PixelPoint;
 
     std::optional<PixelPoint> PixelAt(double X, double Y) const;
-    void Dot(Bitmap& Target, int X, int Y, Color DotColor);
+    int LastPixel(double Pixel) const;
+    int PenOf(int Pixels) const;
+    void Dot(PixelPoint Place, int Pen, Color DotColor);
     void FillPixels(int FromX, int FromY, int ToX, int ToY, Color Filling);
     void Stroke(PixelPoint From, PixelPoint To, Color LineColor);
     void Ellipse(double X, double Y, double Radius, double Aspect, Color LineColor, bool Filled,
@@ -72,7 +80,15 @@ private:
 void BitBlt(PictureSurface& Destination, int X, int Y, int Width, int Height, PictureSurface& Source, int SourceX,
             int SourceY);
 
-// The same with resizing: area-weighted along an axis that shrinks, bilinear along one that grows. A flat colour stays
+// The same in device pixels.
+void BitBltDevice(PictureSurface& Destination, std::int64_t X, std::int64_t Y, std::int64_t Width, std::int64_t Height,
+                  PictureSurface& Source, std::int64_t SourceX, std::int64_t SourceY);
+
+// Turns a picture of the same size and density: column p of Rotated becomes column p + Shift of Source, modulo the
+// width. Shift: pixels, 0 to the width; rounded to device pixels once, so that no seam shows.
+void RotateColumns(PictureSurface& Rotated, PictureSurface& Source, int Shift);
+
+// BitBlt with resizing: area-weighted along an axis that shrinks, bilinear along one that grows. A flat colour stays
 // exactly that colour. Parts outside either surface are left out; a size below 1 does nothing.
 void StretchBlt(PictureSurface& Destination, int X, int Y, int Width, int Height, PictureSurface& Source, int SourceX,
                 int SourceY, int SourceWidth, int SourceHeight);
