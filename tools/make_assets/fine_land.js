@@ -48,19 +48,34 @@ function eachRun(rings, visit) {
     }
 }
 
-// Country index of each point, -1 for sea and lakes; and of each fine pixel, which is land if half of its points are.
-// country: the same of the stored maps' pixels.
+// Country index of each point, -1 for sea and great lakes; and of each fine pixel, which is land if half of its points
+// are. country: the same of the stored maps' pixels.
 export function fineLand(country) {
     const points = new Int16Array(columns * rows).fill(-1);
     for (const each of fineCountries) {
         const number = numberOf(each, country);
         for (const rings of polygonsOf(each)) eachRun(rings, (first, end) => points.fill(number, first, end));
     }
-    for (const rings of loadLakes().filter(isGreat)) eachRun(rings, (first, end) => points.fill(-1, first, end));
+    drainLand(points, loadLakes().filter(isGreat));
     const pixels = majorities(points);
     for (const each of fineCountries)
         for (const [shore] of polygonsOf(each)) keepIslet(shore, numberOf(each, country), points, pixels);
     return { points, pixels };
+}
+
+function drainLand(points, lakes) {
+    for (const rings of lakes) eachRun(rings, (first, end) => points.fill(-1, first, end));
+}
+
+// Share of land in each fine pixel, 0 to 1, with all lakes of the vectors as water.
+export function landShares({ points }) {
+    const drained = points.slice();
+    drainLand(drained, loadLakes());
+    return Float32Array.from({ length: fineWidth * fineHeight }, (_, pixel) => {
+        let land = 0;
+        eachPoint(pixel, (point) => (land += drained[point] >= 0 ? 1 : 0));
+        return land / (samples * samples);
+    });
 }
 
 // The country of this name or, where 1:50 million has none, the one that the stored maps show nearest.
