@@ -21,7 +21,7 @@ TEST_F(Menus, TheBarStandsAsUsersKnowIt) {
     EXPECT_EQ(Bar,
               "&File: &Open- &Save- Save&As- &Quit\n"
               "&Configure:\n"
-              "&Show/Hide: &Sun- &Moon- &Analemma- &Cities- &Map Gridlines- &Time Zones- S&undial-\n"
+              "&Show/Hide: &Sun- &Moon- &Analemma- &Cities- &Map Gridlines- &Time Zones- S&undial- Al&manac &Full Screen\n"
               "&Map: &Natural- &Political-\n"
               "&Animation: &Settings- &Start- Sto&p\n"
               "&Help: Contents- &About Gloamtide\n"

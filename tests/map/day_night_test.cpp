@@ -52,7 +52,7 @@ void ShowScene(const Scene& S) {
     state.ShowTimezones = Shows('Z');
     state.ShowSundial = Shows('D');
     state.MapType = S.MapType;
-    if (state.MapType != state.MapTypeShown) RebuildMapPictures();
+    if (state.MapType != state.MapTypeShown) ResetMapPictures();
     state.LocationName = S.Place;
     state.LocationLat = S.Lat;
     state.LocationLong = S.Long;

@@ -66,6 +66,7 @@ FormWindow::FormWindow(Form& TheForm, std::function<void(FormWindow&)> ThePresen
     if (Record.Borderless) setWindowFlag(Qt::FramelessWindowHint);
     setMinimumSize(480, 320);
     setCentralWidget(Stage);
+    Board->setObjectName("Board");
     Stage->setAutoFillBackground(true);
     Stage->installEventFilter(this);
 
@@ -144,6 +145,7 @@ QSizeF FormWindow::BoardSize() const {
     if (Record.BoardWidth > 0.0 && Record.BoardHeight > 0.0) return {Record.BoardWidth, Record.BoardHeight};
     QSizeF Size(1.0, 1.0);
     for (const Control* Each : Record.Children) {
+        if (!Each->Visible) continue;
         Size =
             Size.expandedTo({Each->Left.Pixels() + Each->Width.Pixels(), Each->Top.Pixels() + Each->Height.Pixels()});
     }

@@ -93,9 +93,17 @@ protected:
         });
     }
 
+    // A window as large as the desktop, with the program's pixels as they are.
+    struct FixedHost : QtHost {
+        void Prepare(FormWindow& Which) override {
+            QtHost::Prepare(Which);
+            Which.FixScale(1.0);
+        }
+    };
+
     std::string Heard;  // names of the controls whose Click came
     DemoForm Demo;
-    QtHost Desktop;  // after the form, so that its windows go first
+    FixedHost Desktop;  // after the form, so that its windows go first
 };
 
 }  // namespace gloamtide

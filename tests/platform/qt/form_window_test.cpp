@@ -73,16 +73,6 @@ TEST_F(Windows, ADialogStartsAtItsFirstFieldEachTimeToBeTypedAnew) {
     EXPECT_EQ(Demo.Year.Text.Get() + Demo.Names.Text.Get(), "19991999");
 }
 
-TEST_F(Windows, WhatDoesNotFitIsReachedByScrolling) {
-    const QScrollBar& Bar = *Window().findChild<QScrollArea*>()->verticalScrollBar();
-    Demo.Zones.Top = 15.0 * (Window().height() + 300);
-    for (const bool Visible : {true, false, true}) {
-        Demo.Zones.Visible = Visible;
-        QCoreApplication::processEvents();
-        EXPECT_EQ(Bar.maximum() >= 300, Visible) << "a hidden control needs no room";
-    }
-}
-
 TEST_F(Windows, AccessKeysReachTheirMenusAndItems) {
     QTest::keyClick(&Window(), Qt::Key_F, Qt::AltModifier);
     ASSERT_NE(QApplication::activePopupWidget(), nullptr);
