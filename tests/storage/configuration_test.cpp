@@ -144,7 +144,7 @@ TEST_F(Configuration, AnimationSettingsGoIntoTheirRecordsAlone) {
     }
     EXPECT_EQ(std::pair(FormGTMain.Caption.Get(), state.ConfigSaved), std::pair(std::string("before"), False));
     WriteFile("huge", std::string((1U << 20U) + 1, '\x55'));
-    ExpectFailure(SaveAnimationOptions, "huge", "no configuration file");
+    ExpectFailure(SaveAnimationOptions, "huge", "too large for a configuration file");
     EXPECT_EQ(fs::file_size("huge"), (1U << 20U) + 1);
 }
 
