@@ -167,6 +167,33 @@ TEST_F(FileCommands, SaveAsAsksUntilTheNameWillDo) {
     EXPECT_EQ(Names(), std::tuple("new.gtf", "Gloamtide (new.gtf)", False)) << "Cancel leaves all as it was";
 }
 
+// What Startup.dat holds then, or nothing where no line of it can.
+TEST_F(FileCommands, ASavedPathComesBackAtTheNextStartOrTheUserIsTold) {
+    const std::pair<std::string, std::string> Paths[] = {
+        {"a.gtf", "\"a.gtf\""}, {"a,b.gtf", "\"a,b.gtf\""}, {"a\"b.gtf", "a\"b.gtf"}, {"a\"", "a\""},
+        {"\"a\".gtf", ""},      {"a\",b.gtf", ""},          {"a\nb.gtf", ""},         {"a\rb.gtf", ""}};
+    for (const auto& [Path, Line] : Paths) {
+        Desktop.Messages.clear();
+        state.ConfigFilePath = Path;
+        F.MenuFileSubSave.Click();
+        EXPECT_EQ(std::pair(fs::exists(Path), state.ConfigSaved), std::pair(true, True));
+        if (Line.empty()) {
+            ExpectMessages(
+                {"Saved, But Not For The Next Start: The configuration is saved, but the next start will not "
+                 "find it: " +
+                 Path + "\n" + NoStartupPath});
+            EXPECT_THROW(WriteStartupFile(), FileFailure);
+            continue;
+        }
+        ExpectMessages({});
+        WriteStartupFile();
+        EXPECT_EQ(Stored("Startup.dat"), Line + "\r\n");
+        state.ConfigFilePath = "";
+        ReadStartupFile();
+        EXPECT_EQ(state.ConfigFilePath, Path);
+    }
+}
+
 // Both Quit commands and the window's own button lead here.
 TEST_F(FileCommands, ExitWithNothingToSaveWritesTheStartupFileWhereTheProgramStarted) {
     state.ConfigSaved = True;
