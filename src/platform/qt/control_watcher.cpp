@@ -104,6 +104,7 @@ QRect ControlWatcher::RoomForLetters(QRect Box, const QRect& Inner) {
     const QSize Needed = Text.sizeHint().expandedTo(Box.size());
     const int Missing = Needed.height() - Box.height();
     Box.adjust(0, -(Missing / 2), 0, Missing - Missing / 2);
+    if (Record.Width.Pixels() == Natural.width()) Box.setWidth(Needed.width());  // letters do not grow evenly
     if (Inner.isEmpty()) return Box;
     const QRect Ink = Text.fontMetrics().tightBoundingRect(Text.text());
     const bool AtLeftEdge = Box.left() <= Inner.left() && Text.alignment().testFlag(Qt::AlignLeft);
