@@ -9,9 +9,9 @@ GLOAMTIDE_ASSET(NaturalDayBmp, gloamtide_natural_day)
 GLOAMTIDE_ASSET(NaturalNightBmp, gloamtide_natural_night)
 GLOAMTIDE_ASSET(PoliticalDayBmp, gloamtide_political_day)
 GLOAMTIDE_ASSET(PoliticalNightBmp, gloamtide_political_night)
-gloamtide::AssetBytes gloamtide::NaturalFineWebp() { return {}; }
-gloamtide::AssetBytes gloamtide::PoliticalFineWebp() { return {}; }
-gloamtide::AssetBytes gloamtide::SeaFinePng() { return {}; }
+GLOAMTIDE_ASSET(NaturalFineWebp, gloamtide_natural_fine)
+GLOAMTIDE_ASSET(PoliticalFineWebp, gloamtide_political_fine)
+GLOAMTIDE_ASSET(SeaFinePng, gloamtide_sea_fine)
 GLOAMTIDE_ASSET(ZoneMaskBmp, gloamtide_zone_mask)
 GLOAMTIDE_ASSET(SplashBmp, gloamtide_splash)
 GLOAMTIDE_ASSET(IconBmp, gloamtide_icon_bmp)

@@ -14,6 +14,13 @@
 
 namespace gloamtide {
 
+// Long tests run so many times shorter under the sanitizers, which take that much longer and find it all the same.
+#ifdef __SANITIZE_ADDRESS__
+constexpr int SanitizedShare = 10;
+#else
+constexpr int SanitizedShare = 1;
+#endif
+
 template <class T>
 void PrintTo(const Property<T>& Value, std::ostream* Out) {
     *Out << testing::PrintToString(Value.Get());

@@ -1,6 +1,7 @@
 #include "dialogs/sundial_options.h"
 
 #include "sundial/mottos.h"
+#include "tests/golden.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {
@@ -9,63 +10,64 @@ namespace {
 class SundialOptions : public ProgramTest {
 protected:
     SundialOptions() {
+        Desktop.ScreenWidth = 640;
         Start();
+        FormGTMain.MenuShowHideSubSundial.Click();
         state.ConfigSaved = True;
         state.SundialEOTCorrection = True;
-        FormGTMain.CommandSDOptions.Click();
+        Open();
+    }
+
+    static void Open() { FormGTMain.CommandSDOptions.Click(); }
+
+    // Ticks: longitude, equation of time, daylight saving.
+    std::array<int, 3> Ticks() const {
+        return {F.CheckSundialLongitudeCorrection.Value, F.CheckSundialEOTCorrection.Value,
+                F.CheckSundialDSTCorrection.Value};
     }
 
     SundialOptionsForm& F = FormSundialOptions;
 };
 
-TEST_F(SundialOptions, OpensWithTheFlagsInTheMainWindowsPlace) {
-    EXPECT_TRUE(F.Visible);
-    EXPECT_FALSE(FormGTMain.Visible);
-    EXPECT_EQ(F.CheckSundialLongitudeCorrection.Value, 0);
-    EXPECT_EQ(F.CheckSundialEOTCorrection.Value, 1);
-    EXPECT_EQ(F.CheckSundialDSTCorrection.Value, 0);
-}
-
-TEST_F(SundialOptions, OKTakesTheTicksOver) {
-    F.CheckSundialDSTCorrection.Value = 1;
+TEST_F(SundialOptions, OKTakesTheTicksOverAndTurnsTheLines) {
+    EXPECT_TRUE(F.Visible && !FormGTMain.Visible);
+    EXPECT_EQ(Ticks(), (std::array<int, 3>{0, 1, 0}));
+    const Bitmap Before = FormGTMain.PictureSundial.Picture;
+    F.CheckSundialLongitudeCorrection.Value = F.CheckSundialDSTCorrection.Value = 1;
     F.CheckSundialEOTCorrection.Value = 0;
     F.CommandSDOptionsOK.Click();
-    EXPECT_EQ(state.SundialDSTCorrection, True);
+    EXPECT_TRUE(state.SundialLongitudeCorrection == True && state.SundialDSTCorrection == True);
     EXPECT_EQ(state.SundialEOTCorrection, False);
     EXPECT_EQ(state.ConfigSaved, False);
-    EXPECT_TRUE(FormGTMain.Visible);
-    EXPECT_FALSE(F.Visible);
-    EXPECT_EQ(Desktop.Focus, &FormGTMain.PictureSundial);
+    EXPECT_TRUE(FormGTMain.Visible && !F.Visible && Desktop.Focus == &FormGTMain.PictureSundial);
+    EXPECT_NE(FormGTMain.PictureSundial.Picture.Pixels, Before.Pixels);
+    Open();
+    EXPECT_EQ(Ticks(), (std::array<int, 3>{1, 0, 1}));
 }
 
 TEST_F(SundialOptions, CancelAndTheCloseButtonDropThem) {
-    F.CheckSundialDSTCorrection.Value = 1;
-    F.CommandSDOptionsCancel.Click();
-    EXPECT_EQ(state.SundialDSTCorrection, False);
-    EXPECT_EQ(F.CheckSundialDSTCorrection.Value, 0);
-    EXPECT_EQ(state.ConfigSaved, True);
-    FormGTMain.CommandSDOptions.Click();
-    F.CheckSundialDSTCorrection.Value = 1;
-    F.Close();
-    EXPECT_EQ(state.SundialDSTCorrection, False);
-    EXPECT_TRUE(FormGTMain.Visible);
+    for (const bool ByItsButton : {true, false}) {
+        F.CheckSundialDSTCorrection.Value = 1;
+        ByItsButton ? F.CommandSDOptionsCancel.Click() : F.Close();
+        EXPECT_EQ(state.SundialDSTCorrection, False);
+        EXPECT_EQ(state.ConfigSaved, True);
+        EXPECT_TRUE(FormGTMain.Visible);
+        Open();
+        EXPECT_EQ(Ticks(), (std::array<int, 3>{0, 1, 0}));
+    }
 }
 
-TEST_F(SundialOptions, TheMottoChangesAtMidnightGreenwichAndNeverLeavesTheTable) {
-    const auto MottoAt = [](double JD) {
-        state.SystemJD = JD;
+TEST_F(SundialOptions, AMottoForEachDay) {
+    std::string Text;
+    for (const double Place : {-1.0, 0.49, 0.5, 1.49, 35.51}) {  // changes at 0h Greenwich, to an even number at a tie
+        state.SystemJD = 36.0 * 68000.0 + Place;
         ChooseMotto();
-        return FormGTMain.LabelSundialMotto.Caption.Get();
-    };
-    EXPECT_EQ(MottoAt(36.0 * 68000.0), "Carpe diem -- Sieze the day");
-    EXPECT_EQ(MottoAt(36.0 * 68000.0 + 12.0), "Grow old along with me, the best is yet to be");
-    EXPECT_EQ(MottoAt(36.0 * 68000.0 + 10.0), "");
-    EXPECT_EQ(MottoAt(36.0 * 68000.0 + 35.4), "One day at a time");
-    EXPECT_EQ(MottoAt(36.0 * 68000.0 + 35.6), "Carpe diem -- Sieze the day");
-    EXPECT_EQ(MottoAt(-1.0), "One day at a time");
-    int Filled = 0;
-    for (const std::string& Each : state.Mottos) Filled += Each.empty() ? 0 : 1;
-    EXPECT_EQ(Filled, 34);
+        Text += FormGTMain.LabelSundialMotto.Caption.Get() + "\n";
+    }
+    for (std::size_t Place = 0; Place < state.Mottos.size(); ++Place) {
+        Text += std::to_string(Place) + " " + state.Mottos[Place] + "\n";
+    }
+    ExpectGoldenText("mottos.txt", Text);
 }
 
 }  // namespace

@@ -1,86 +1,75 @@
 #include "forms/layout.h"
 
 #include <algorithm>
+#include <sstream>
 
+#include "platform/combo_box.h"
+#include "platform/controls.h"
+#include "tests/golden.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {
 namespace {
 
-class Layout : public ProgramTest, public testing::WithParamInterface<int> {
-protected:
-    // Pixels of a control on its container.
-    struct Box {
-        double Left, Top, Right, Bottom;
-    };
-    static Box BoxOf(const Control& Which) {
-        const double Left = Which.Left.Pixels();
-        const double Top = Which.Top.Pixels();
-        return {Left, Top, Left + Which.Width.Pixels(), Top + Which.Height.Pixels()};
+std::string TextOf(const Control& Record) {
+    if (const auto* Each = dynamic_cast<const Label*>(&Record)) return Each->Caption;
+    if (const auto* Each = dynamic_cast<const Frame*>(&Record)) return Each->Caption;
+    if (const auto* Each = dynamic_cast<const TextBox*>(&Record)) return Each->Text;
+    if (const auto* Each = dynamic_cast<const OptionButton*>(&Record)) {
+        return Each->Caption.Get() + (Each->Value ? " (chosen)" : "");
     }
-    // By more than one pixel: rows of the third panel share one between them, where no letter reaches.
-    static bool Overlap(const Box& A, const Box& B) {
-        return A.Left + 1.0 < B.Right && B.Left + 1.0 < A.Right && A.Top + 1.0 < B.Bottom && B.Top + 1.0 < A.Bottom;
+    if (const auto* Each = dynamic_cast<const CheckBox*>(&Record)) return Each->Caption;
+    if (const auto* Each = dynamic_cast<const PictureBox*>(&Record)) return Each->Description;
+    if (const auto* Each = dynamic_cast<const CommandButton*>(&Record)) {
+        return Each->Caption.Get() + (Each->Default ? " (Enter)" : "") + (Each->Cancel ? " (Escape)" : "");
     }
-};
+    const auto& List = dynamic_cast<const ComboBox&>(Record);
+    std::string Text;
+    for (int Position = 0; Position < std::min(List.ListCount(), 31); ++Position) Text += List.List(Position) + ";";
+    return Text + " of " + std::to_string(List.ListCount());
+}
 
-TEST_P(Layout, EverythingHasRoomAndNothingOverlaps) {
-    Desktop.ScreenWidth = GetParam();
-    Start();
-    MainForm& F = FormGTMain;
-    const auto Class = static_cast<std::size_t>(state.ScreenClass);
-    const PictureSurface& Panel = F.PictureGTData[Class];
-    ASSERT_EQ(Panel.Children.size(), 37U);
-    for (const Control* Each : Panel.Children) {
-        const Box Place = BoxOf(*Each);
-        EXPECT_TRUE(Place.Left >= 0.0 && Place.Right <= Panel.Width.Pixels() + 1e-9) << Each->Name;
-        EXPECT_TRUE(Place.Top >= 0.0 && Place.Bottom <= Panel.Height.Pixels() + 1e-9) << Each->Name;
-        for (const Control* Other : Panel.Children) {
-            EXPECT_FALSE(Other != Each && Overlap(Place, BoxOf(*Other))) << Each->Name << " and " << Other->Name;
+void Describe(std::ostream& Out, const Control& Record, const std::string& Indent, bool Deep) {
+    Out << Indent << Record.Name << " at " << Record.Left.Pixels() << ", " << Record.Top.Pixels() << ", "
+        << Record.Width.Pixels() << " x " << Record.Height.Pixels() << (Record.Visible ? "" : ", hidden") << ", "
+        << Record.FontName.Get() << ' ' << Record.FontSize << (Record.FontBold ? " bold" : "")
+        << (Record.FontItalic ? " italic" : "") << ", " << std::hex << Record.ForeColor << " on " << Record.BackColor
+        << std::dec << ": " << TextOf(Record);
+    if (!Record.ToolTipText.Get().empty()) Out << " [" << Record.ToolTipText.Get() << "]";
+    Out << "\n";
+    const auto* Holder = dynamic_cast<const Container*>(&Record);
+    if (Holder == nullptr || !Deep) return;
+    for (const Control* Each : Holder->Children) Describe(Out, *Each, Indent + "  ", Deep);
+}
+
+void Describe(std::ostream& Out, const Menu& Record, const std::string& Indent) {
+    Out << Indent << (Record.Separator ? "---" : Record.Caption.Get()) << (Record.Checked ? " (checked)" : "") << "\n";
+    for (const Menu* Each : Record.Items) Describe(Out, *Each, Indent + "  ");
+}
+
+using Layout = ProgramTest;
+
+// Every window, menu and control, with what a user reads on it, and its place in pixels.
+TEST_F(Layout, WindowsAndWhatTheySay) {
+    std::ostringstream Out;
+    for (const int Width : {640, 800, 1024, 1280, 1920}) {
+        Desktop.ScreenWidth = Width;
+        RenewProgram();
+        Start();
+        Out << "Screen of " << Width << " pixels\n";
+        for (Form* Each : std::initializer_list<Form*>{&FormSplash, &FormGTMain, &FormConfigure, &FormAnimation,
+                                                       &FormSundialOptions, &FormAbout}) {
+            Each->Load();
+            Out << "\n" << Each->Name << ": " << Each->Caption.Get() << "\n";
+            for (const Menu* Item : Each->Menus) Describe(Out, *Item, "  ");
+            for (const Timer* Ticking : Each->Timers) {
+                Out << "  " << Ticking->Name << ": " << Ticking->Interval << (Ticking->Enabled ? ", runs" : "") << "\n";
+            }
+            for (const Control* Child : Each->Children) Describe(Out, *Child, "  ", Width >= 1280);
         }
+        Out << "\n";
     }
-    const Box Map = BoxOf(F.PictureGT);
-    EXPECT_EQ(Map.Right, GetParam());
-    EXPECT_FALSE(Overlap(Map, BoxOf(Panel)));
-    EXPECT_LE(BoxOf(Panel).Right, GetParam());
-    EXPECT_LE(BoxOf(Panel).Bottom, F.PictureGTContainer.Height.Pixels());
-    for (const Control* Each : F.PictureGT.Children) {
-        const Box Place = BoxOf(*Each);
-        EXPECT_TRUE(Place.Left >= 0.0 && Place.Top >= 0.0) << Each->Name;
-        EXPECT_TRUE(Place.Right <= F.PictureGT.Width && Place.Bottom <= F.PictureGT.Height) << Each->Name;
-    }
-    EXPECT_FALSE(Overlap(BoxOf(F.LabelCity), BoxOf(F.LabelMouseLat)));
-    EXPECT_FALSE(Overlap(BoxOf(F.LabelAnimInfo), BoxOf(F.CmdAnimStop)));
-}
-
-INSTANTIATE_TEST_SUITE_P(Screens, Layout, testing::Values(640, 800, 1024, 1280, 1920));
-
-TEST_F(Layout, StatedPlacesOfTheLargestClass) {
-    Desktop.ScreenWidth = 1280;
-    Start();
-    MainForm& F = FormGTMain;
-    EXPECT_EQ(F.PictureGT.Top.Pixels(), 32.0);
-    EXPECT_EQ(F.PictureGT.Left.Pixels(), 1280.0 - 1186.0);
-    EXPECT_EQ(F.PictureGTData[3].Left.Pixels(), 250.0);
-    EXPECT_NEAR(F.PictureGTData[3].Top.Pixels(), 32.0 + 1.01 * 644.0, 1e-9);
-    EXPECT_EQ(F.LabelZonehour.Top.Pixels(), 655.0);
-    EXPECT_EQ(F.LabelWestOfIDLDate.Top.Pixels(), 14.0);
-    EXPECT_EQ(F.LabelMouseLong.Width.Pixels(), 110.0);
-    EXPECT_EQ(F.LabelMouseLong.Left.Pixels(), 1186.0 - 110.0);
-    EXPECT_NEAR(F.LabelMouseLong.Top.Pixels(), 644.0 - 2.7 * 16.0, 1e-9);
-    EXPECT_EQ(F.LabelGTLocalDateShow[3].Left.Pixels(), 2835.0 / 15.0);
-    EXPECT_EQ(F.LabelPhaseOfMoonShow[3].Top.Pixels(), 2505.0 / 15.0);
-    EXPECT_EQ(state.MarkerRadiusX, 7.0F);
-    EXPECT_EQ(state.MarkerRadiusY, 2.25F);
-    EXPECT_EQ(state.CityMarkerRadius, 1.0F);
-}
-
-TEST_F(Layout, DialogsStandInThousandthsOfTheirDesignSize) {
-    Desktop.ScreenWidth = 1024;
-    Start();
-    FormGTMain.MenuHelpSubAbout.Click();
-    EXPECT_NEAR(FormAbout.FrameAbout.Left.Pixels(), 0.8 * 6810.0 / 15.0, 1e-9);
-    EXPECT_NEAR(FormAbout.FrameAbout.Top.Pixels(), 0.4 * 5220.0 / 15.0, 1e-9);
+    ExpectGoldenText("windows.txt", Out.str());
 }
 
 }  // namespace

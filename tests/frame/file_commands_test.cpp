@@ -9,7 +9,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string Stored(const fs::path& Path) { return ReadFile(Path.string(), 2000); }
+std::string Stored(const std::string& Path) { return ReadFile(Path, 2000); }
 
 class FileCommands : public ProgramTest {
 protected:
@@ -49,15 +49,16 @@ protected:
         F.MenuFileSubOpen.Click();
     }
 
-    void ExpectMessages(std::size_t Count, const std::string& Title, const std::string& Text) const {
-        ASSERT_EQ(Desktop.Messages.size(), Count);
-        for (const auto& Each : Desktop.Messages) {
-            EXPECT_EQ(Each.BeepsBefore, 2);
-            EXPECT_EQ(Each.Box.Title, Title);
-            EXPECT_EQ(Each.Box.Text, Text);
-            EXPECT_EQ(Each.Box.Icon, MessageIcon::Exclamation);
-            EXPECT_EQ(Each.Box.Buttons, MessageButtons::OK);
+    // Titles and texts of the messages, each after two beeps.
+    void ExpectMessages(const std::vector<std::string>& Expected) const {
+        std::vector<std::string> Shown;
+        for (const auto& [Box, BeepsBefore] : Desktop.Messages) {
+            const bool Question = Box.Icon == MessageIcon::Question && Box.Buttons == MessageButtons::YesNo;
+            const bool Warning = Box.Icon == MessageIcon::Exclamation && Box.Buttons == MessageButtons::OK;
+            EXPECT_TRUE((Question || Warning) && BeepsBefore == 2);
+            Shown.push_back(Box.Title + (Question ? " (Yes/No): " : ": ") + Box.Text);
         }
+        EXPECT_EQ(Shown, Expected);
     }
 
     static void ExpectDialogs(const std::vector<FileDialog>& Shown, const std::vector<std::string>& Offered) {
@@ -69,81 +70,68 @@ protected:
         EXPECT_EQ(Names, Offered);
     }
 
+    // The checked items of the menus.
+    std::string Checked() const {
+        std::string Captions;
+        for (const Menu* Each : F.Menus) {
+            for (const Menu* Item : Each->Items) Captions += Item->Checked ? " " + Item->Caption.Get() : "";
+        }
+        return Captions;
+    }
+
     MainForm& F = FormGTMain;
 };
 
 TEST_F(FileCommands, OpenShowsAllThatTheFileHolds) {
+    const std::vector<Color> Natural = F.PictureGT.Picture.Pixels;
     Desktop.System = {2026, 6, 2, 2, 0, 0, 0, 0};
     F.Timer1.Enabled = false;  // frozen at the limit of the years
     state.CurrentJD = 3182395.5;
-    state.ConfigSaved = False;
     Open("kathmandu.gtf");
     EXPECT_TRUE(Desktop.Messages.empty());
     ExpectDialogs(Desktop.OpenDialogs, {""});
-    EXPECT_EQ(state.ConfigOpenPath, "kathmandu.gtf");
-    EXPECT_EQ(state.ConfigFilePath, "kathmandu.gtf");
-    EXPECT_EQ(state.ConfigSaved, False);
-    EXPECT_EQ(F.Caption, "Gloamtide (kathmandu.gtf)");
-    EXPECT_EQ(state.ZoneText, "GMT + 5:45");
-    EXPECT_EQ(FormConfigure.ComboSelTZ.ListIndex, 22);
-    EXPECT_TRUE(F.MenuShowHideSubSun.Checked && F.MenuShowHideSubCities.Checked && F.MenuShowHideSubSundial.Checked);
-    EXPECT_FALSE(F.MenuShowHideSubMoon.Checked || F.MenuShowHideSubAnalemma.Checked ||
-                 F.MenuShowHideSubMapGrid.Checked || F.MenuShowHideSubTimezones.Checked);
-    EXPECT_TRUE(F.MenuMapSubPolitical.Checked && !F.MenuMapSubNatural.Checked);
-    EXPECT_EQ(FormAnimation.TextStepYears.Text, "2");
-    EXPECT_EQ(FormAnimation.TextStepDays.Text, "-3");
-    EXPECT_TRUE(FormAnimation.OptionAnimOptionsFwdBack[1].Value && !FormAnimation.OptionAnimOptionsFwdBack[0].Value);
+    EXPECT_EQ(std::tuple(state.ConfigFilePath, F.Caption.Get(), state.ConfigSaved),
+              std::tuple("kathmandu.gtf", "Gloamtide (kathmandu.gtf)", False));
+    EXPECT_EQ(std::tuple(state.ZoneText, FormConfigure.ComboSelTZ.ListIndex.Get()), std::tuple("GMT + 5:45", 22));
+    EXPECT_EQ(Checked(), " &Sun &Cities S&undial &Political");
     EXPECT_EQ(F.LabelAnimInfo.Caption, "2y, -3d, " + FormAnimation.TextStepHours.Text.Get() + "h   Backward");
-    EXPECT_EQ(state.SystemJD, 2461193.5);  // 2026 June 2, 0h
-    EXPECT_EQ(state.CurrentJD, 2461203.5);
-    EXPECT_EQ(state.GreenwichDay, 12);
+    EXPECT_EQ(FormAnimation.TextStepYears.Text.Get() + FormAnimation.TextStepDays.Text.Get(), "2-3");
+    EXPECT_TRUE(FormAnimation.OptionAnimOptionsFwdBack[1].Value && !FormAnimation.OptionAnimOptionsFwdBack[0].Value);
+    EXPECT_EQ(std::tuple(state.SystemJD, state.CurrentJD), std::tuple(2461193.5, 2461203.5));  // 2026 June 2 and 12
     EXPECT_NEAR(state.SunDeclination, 23.1, 0.1);  // Astronomical Almanac, middle of June
     EXPECT_EQ(F.LabelLocNameShow[state.ScreenClass].Caption, "Kathmandu");
-    EXPECT_TRUE(F.Timer1.Enabled);
     Desktop.Advance(1000);
     EXPECT_GT(state.CurrentJD, 2461203.5) << "the clock runs again";
-    Open("cleveland.gtf");
-    EXPECT_FALSE(F.MenuShowHideSubSun.Checked || F.MenuShowHideSubCities.Checked || F.MenuShowHideSubSundial.Checked);
-    EXPECT_EQ(F.LabelAnimInfo.Caption, "0y, 0d, 1h   Forward");
-    EXPECT_EQ(state.OffsetDays, 0.0);
     state.ConfigSaved = True;
-    Open("kathmandu.gtf");
-    EXPECT_EQ(state.ConfigSaved, True);
-}
-
-TEST_F(FileCommands, OpenBuildsTheMapOfTheFilesType) {
-    const Bitmap Natural = F.PictureGT.Picture;
-    Open("political.gtf");
-    EXPECT_NE(F.PictureGT.Picture.Pixels, Natural.Pixels);
-    EXPECT_FALSE(F.Timer4.Enabled);
+    Desktop.System = {2026, 6, 1, 1, 12, 0, 0, 0};
     Open("cleveland.gtf");
-    EXPECT_EQ(F.PictureGT.Picture.Pixels, Natural.Pixels);
+    EXPECT_EQ(std::tuple(Checked(), F.LabelAnimInfo.Caption.Get(), state.OffsetDays, state.ConfigSaved),
+              std::tuple(" &Natural", "0y, 0d, 1h   Forward", 0.0, True));
+    EXPECT_EQ(F.PictureGT.Picture.Pixels, Natural);
+    Open("political.gtf");
+    EXPECT_NE(F.PictureGT.Picture.Pixels, Natural);
 }
 
 TEST_F(FileCommands, OpenAsksAgainUntilAFileIsOneOfItsOwn) {
     Desktop.FileNames = {"folder", "missing.gtf", "short.gtf", "name.gtf", "/dev/null", "kathmandu.gtf", "unasked"};
     F.MenuFileSubOpen.Click();
-    ExpectMessages(5, "File Invalid", "Designated file improperly formatted.");
+    ExpectMessages({5, "File Invalid: Designated file improperly formatted."});
     ExpectDialogs(Desktop.OpenDialogs, {"", "", "", "", "", ""});
-    EXPECT_EQ(state.ConfigFilePath, "kathmandu.gtf");
-    EXPECT_EQ(state.LocationName, "Kathmandu");
+    EXPECT_EQ(std::tuple(state.ConfigFilePath, state.LocationName), std::tuple("kathmandu.gtf", "Kathmandu"));
 }
 
 TEST_F(FileCommands, CancelInOpenChangesNothingButWhatABadFileHeld) {
     const Bitmap Map = F.PictureGT.Picture;
-    const std::string Path = state.ConfigFilePath;
-    const std::string Title = F.Caption;
+    const auto Before = std::tuple(state.ConfigFilePath, F.Caption.Get(), state.LocationName, Checked());
     F.Timer1.Enabled = false;
     for (const bool AfterBadFile : {false, true}) {
         if (AfterBadFile) Desktop.FileNames = {"name.gtf"};
         F.MenuFileSubOpen.Click();
         EXPECT_EQ(Desktop.Messages.size(), AfterBadFile ? 1U : 0U);
         EXPECT_EQ(state.OffsetDays, AfterBadFile ? 10.0 : 0.0);
-        EXPECT_EQ(state.LocationName, "Cleveland, Ohio");
-        EXPECT_EQ(state.ConfigFilePath, Path);
-        EXPECT_EQ(F.Caption, Title);
+        EXPECT_EQ(std::tuple(state.ConfigFilePath, F.Caption.Get(), state.LocationName, Checked()), Before);
         EXPECT_EQ(F.PictureGT.Picture.Pixels, Map.Pixels);
-        EXPECT_FALSE(F.Timer1.Enabled || F.MenuShowHideSubSun.Checked);
+        EXPECT_FALSE(F.Timer1.Enabled);
     }
 }
 
@@ -154,7 +142,7 @@ TEST_F(FileCommands, SaveTakesTheNameInForceAndNamesWhatFails) {
     state.ConfigSaved = False;
     state.ConfigFilePath = "missing/mine.gtf";
     F.MenuFileSubSave.Click();
-    ExpectMessages(1, "Save Error", "Can't save the configuration. missing/mine.gtf: No such file or directory");
+    ExpectMessages({"Save Error: Can't save the configuration. missing/mine.gtf: No such file or directory"});
     EXPECT_EQ(state.ConfigSaved, False);
     SetDefaultConfiguration();  // the sentence that there is no file is a name like any other
     F.MenuFileSubSave.Click();
@@ -167,63 +155,54 @@ TEST_F(FileCommands, SaveAsAsksUntilTheNameWillDo) {
     const std::string Path = state.ConfigFilePath;
     Desktop.FileNames = {"folder", "new.gtf", "unasked"};
     F.MenuFileSubSaveAs.Click();
-    ExpectMessages(1, "Save-As Error", "Error - can't save file.");
+    ExpectMessages({"Save-As Error: Error - can't save file."});
     ExpectDialogs(Desktop.SaveDialogs, {Path, "folder"});
     EXPECT_EQ(Stored("new.gtf"), Stored("cleveland.gtf"));
-    EXPECT_EQ(state.ConfigFilePath, "new.gtf");
-    EXPECT_EQ(F.Caption, "Gloamtide (new.gtf)");
-    EXPECT_EQ(state.ConfigSaved, True);
+    const auto Names = [this] { return std::tuple(state.ConfigFilePath, F.Caption.Get(), state.ConfigSaved); };
+    EXPECT_EQ(Names(), std::tuple("new.gtf", "Gloamtide (new.gtf)", True));
     state.ConfigSaved = False;
     Desktop.FileNames = {"missing/new.gtf", std::nullopt};
     F.MenuFileSubSaveAs.Click();
-    EXPECT_EQ(state.ConfigFilePath, "new.gtf") << "Cancel, after a failure too, leaves all as it was";
-    EXPECT_EQ(F.Caption, "Gloamtide (new.gtf)");
-    EXPECT_EQ(state.ConfigSaved, False);
+    EXPECT_EQ(Names(), std::tuple("new.gtf", "Gloamtide (new.gtf)", False)) << "Cancel leaves all as it was";
 }
 
+// Both Quit commands and the window's own button lead here.
 TEST_F(FileCommands, ExitWithNothingToSaveWritesTheStartupFileWhereTheProgramStarted) {
     state.ConfigSaved = True;
     fs::current_path("folder");
     F.MenuQuit.Click();
-    EXPECT_TRUE(Desktop.Ended && Desktop.Messages.empty() && Desktop.SaveDialogs.empty());
-    EXPECT_EQ(Stored(Folder / "Startup.dat"), '"' + (Folder / "mine.gtf").string() + "\"\r\n");
-    EXPECT_TRUE(fs::is_empty(Folder / "folder"));
-    EXPECT_FALSE(fs::exists(Folder / "mine.gtf"));
+    ExpectMessages({});
+    EXPECT_TRUE(Desktop.Ended && LoadedForms.empty() && Desktop.SaveDialogs.empty() && !F.Visible);
+    EXPECT_EQ(state.ExitInProgress, True);
+    EXPECT_EQ(Stored("../Startup.dat"), '"' + (Folder / "mine.gtf").string() + "\"\r\n");
+    EXPECT_TRUE(fs::is_empty("../folder") && !fs::exists("../mine.gtf"));
 }
 
 TEST_F(FileCommands, ExitAsksOnceAndNoKeepsTheOldName) {
     F.Close();
-    ASSERT_EQ(Desktop.Messages.size(), 1U);
-    EXPECT_EQ(Desktop.Messages[0].BeepsBefore, 2);
-    EXPECT_EQ(Desktop.Messages[0].Box.Title, "Save Configuration?");
-    EXPECT_EQ(Desktop.Messages[0].Box.Text, "Present Configuration not saved, do you wish to save it?");
-    EXPECT_EQ(Desktop.Messages[0].Box.Icon, MessageIcon::Question);
-    EXPECT_EQ(Desktop.Messages[0].Box.Buttons, MessageButtons::YesNo);
-    EXPECT_TRUE(Desktop.Ended && Desktop.SaveDialogs.empty());
+    ExpectMessages({"Save Configuration? (Yes/No): Present Configuration not saved, do you wish to save it?"});
+    EXPECT_TRUE(Desktop.Ended && LoadedForms.empty() && Desktop.SaveDialogs.empty() && !fs::exists("mine.gtf"));
     EXPECT_EQ(Stored("Startup.dat"), '"' + state.ConfigFilePath + "\"\r\n");
-    EXPECT_FALSE(fs::exists("mine.gtf"));
 }
 
 TEST_F(FileCommands, ASecondStartComesUpWhereTheFirstEnded) {
+    const std::string Path = (Folder / "Zürich, 東.gtf").string();
     Open("kathmandu.gtf");
     state.ConfigSaved = False;
     Desktop.Answers = {MessageAnswer::Yes};
-    Desktop.FileNames = {"folder", (Folder / "new.gtf").string(), "unasked"};
+    Desktop.FileNames = {"folder", Path, "unasked"};
     F.MenuFileSubQuit.Click();
-    ASSERT_EQ(Desktop.Messages.size(), 2U) << "the question, and the folder's";
-    EXPECT_EQ(Desktop.Messages[1].Box.Title, "Save File Error");
-    EXPECT_EQ(Desktop.Messages[1].Box.Text, "Error - Invalid Filename.");
-    EXPECT_EQ(Desktop.Messages[1].BeepsBefore, 2);
+    ExpectMessages({"Save Configuration? (Yes/No): Present Configuration not saved, do you wish to save it?",
+                    "Save File Error: Error - Invalid Filename."});
     ExpectDialogs(Desktop.SaveDialogs, {"", ""});
-    EXPECT_EQ(Stored("new.gtf"), Stored("kathmandu.gtf"));
+    EXPECT_EQ(Stored(Path), Stored("kathmandu.gtf"));
     EXPECT_TRUE(Desktop.Ended);
     const double Before = state.CurrentJD;
     state = SharedState{};
     StartProgram();
     EXPECT_EQ(Desktop.Messages.size(), 2U);
-    EXPECT_EQ(state.LocationName, "Kathmandu");
-    EXPECT_EQ(state.CurrentJD, Before);
-    EXPECT_EQ(F.Caption, "Gloamtide (" + (Folder / "new.gtf").string() + ")");
+    EXPECT_EQ(std::tuple(state.LocationName, state.CurrentJD, F.Caption.Get()),
+              std::tuple("Kathmandu", Before, "Gloamtide (" + Path + ")"));
 }
 
 TEST_F(FileCommands, CancelAtExitEndsWithNothingWritten) {
@@ -239,7 +218,7 @@ TEST_F(FileCommands, AStartupFileThatCannotBeWrittenLeadsToTheSaveDialog) {
     state.AppDirectory = (Folder / "removed").string();
     Desktop.FileNames = {(Folder / "new.gtf").string(), std::nullopt};
     ExitProgram();
-    ExpectMessages(2, "Save File Error", "Error - Invalid Filename.");
+    ExpectMessages({2, "Save File Error: Error - Invalid Filename."});
     ExpectDialogs(Desktop.SaveDialogs, {"", ""});
     EXPECT_TRUE(fs::exists("new.gtf") && Desktop.Ended);
 }

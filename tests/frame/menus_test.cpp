@@ -29,83 +29,66 @@ TEST_F(Menus, TheBarStandsAsUsersKnowIt) {
 }
 
 TEST_F(Menus, ShowHideItemsMirrorTheirFlags) {
-    struct Item {
-        Menu& Command;
-        Boolean& Flag;
-    };
-    for (const Item& Each :
-         {Item{F.MenuShowHideSubSun, state.ShowSun}, Item{F.MenuShowHideSubMoon, state.ShowMoon},
-          Item{F.MenuShowHideSubAnalemma, state.ShowAnalemma}, Item{F.MenuShowHideSubCities, state.ShowCities},
-          Item{F.MenuShowHideSubMapGrid, state.ShowMapGrid}, Item{F.MenuShowHideSubTimezones, state.ShowTimezones},
-          Item{F.MenuShowHideSubSundial, state.ShowSundial}}) {
-        SCOPED_TRACE(Each.Command.Name);
-        const Bitmap Before = F.PictureGT.Picture;
-        state.ConfigSaved = True;
-        Each.Command.Click();
-        EXPECT_EQ(Each.Flag, True);
-        EXPECT_TRUE(Each.Command.Checked);
-        EXPECT_EQ(state.ConfigSaved, False);
-        Each.Command.Click();
-        EXPECT_EQ(Each.Flag, False);
-        EXPECT_FALSE(Each.Command.Checked);
-        EXPECT_EQ(F.PictureGT.Picture.Pixels, Before.Pixels) << "twice leaves the picture as it was";
-        Each.Flag = 7;  // a flag of a hand-made file that is neither
-        Each.Command.Click();
-        EXPECT_EQ(Each.Flag, True);
-        Each.Command.Click();
+    const std::pair<Menu&, Boolean&> Items[] = {
+        {F.MenuShowHideSubSun, state.ShowSun},           {F.MenuShowHideSubMoon, state.ShowMoon},
+        {F.MenuShowHideSubAnalemma, state.ShowAnalemma}, {F.MenuShowHideSubCities, state.ShowCities},
+        {F.MenuShowHideSubMapGrid, state.ShowMapGrid},   {F.MenuShowHideSubTimezones, state.ShowTimezones},
+        {F.MenuShowHideSubSundial, state.ShowSundial}};
+    const Bitmap Before = F.PictureGT.Picture;
+    for (const auto& [Command, Flag] : Items) {
+        SCOPED_TRACE(Command.Name);
+        for (const Boolean Old : {False, True, Boolean{7}}) {  // 7: of a hand-made file, neither
+            Flag = Old;
+            state.ConfigSaved = True;
+            Command.Click();
+            const Boolean New = Old == True ? False : True;
+            EXPECT_EQ(std::tuple(Flag, Command.Checked.Get(), state.ConfigSaved), std::tuple(New, New == True, False));
+            EXPECT_EQ(F.PictureGT.Picture.Pixels != Before.Pixels || F.PictureSundial.Visible, New == True);
+        }
+        Command.Click();
     }
 }
 
-TEST_F(Menus, LoadedFlagsShowAtTheStart) {
-    state.ShowMoon = state.ShowCities = True;
-    state.MapType = 1;
-    ShowChecks();
-    EXPECT_TRUE(F.MenuShowHideSubMoon.Checked && F.MenuShowHideSubCities.Checked && F.MenuMapSubPolitical.Checked);
-    EXPECT_FALSE(F.MenuShowHideSubSun.Checked || F.MenuMapSubNatural.Checked);
-}
-
 TEST_F(Menus, AMapTypeIsPreparedAtOnceAndBuiltATenthOfASecondLater) {
-    EXPECT_TRUE(F.MenuMapSubNatural.Checked);
-    const Bitmap Natural = F.PictureGT.Picture;
+    const auto Pictures = [] {
+        std::vector<std::vector<Color>> Result;
+        for (const PictureSurface* Each : FormPictures.WorkPictures()) Result.push_back(Each->Picture.Pixels);
+        return Result;
+    };
+    const auto Natural = Pictures();
+    const auto Checks = [this] {
+        return std::pair(F.MenuMapSubNatural.Checked.Get(), F.MenuMapSubPolitical.Checked.Get());
+    };
+    EXPECT_EQ(Checks(), std::pair(true, false));
+    state.ConfigSaved = True;
     F.MenuMapSubPolitical.Click();
-    EXPECT_EQ(state.MapType, 1);
-    EXPECT_TRUE(F.LabelWorking.Visible && F.MenuMapSubPolitical.Checked);
-    EXPECT_FALSE(F.MenuMapSubNatural.Checked);
-    EXPECT_EQ(F.PictureGT.Picture.Pixels, Natural.Pixels);
-    Desktop.Advance(100);
-    EXPECT_FALSE(F.LabelWorking.Visible);
-    EXPECT_NE(F.PictureGT.Picture.Pixels, Natural.Pixels);
-    F.MenuMapSubPolitical.Click();  // the type in force is built again
-    EXPECT_TRUE(F.LabelWorking.Visible && F.Timer4.Enabled);
-    Desktop.Advance(100);
+    EXPECT_EQ(std::tuple(state.MapType, Checks(), F.LabelWorking.Visible.Get()),
+              std::tuple(1, std::pair(false, true), true));
+    Desktop.Advance(99);
+    EXPECT_EQ(Pictures(), Natural);
+    Desktop.Advance(1);
     EXPECT_FALSE(F.LabelWorking.Visible || F.Timer4.Enabled);
+    EXPECT_EQ(state.ConfigSaved, False);
+    const auto Political = Pictures();
+    for (std::size_t Each = 0; Each < Natural.size(); ++Each) EXPECT_NE(Political[Each], Natural[Each]) << Each;
+    F.MenuMapSubNatural.Click();
+    Desktop.Advance(100);
+    EXPECT_EQ(Pictures(), Natural) << "cities and zones too";
+    F.MenuMapSubNatural.Click();  // the type in force is built again
+    EXPECT_TRUE(F.LabelWorking.Visible && F.Timer4.Enabled);
 }
 
-TEST_F(Menus, HelpAsksForItsFile) {
+TEST_F(Menus, HelpAndAboutOpenWhileTheClockRunsOn) {
     F.MenuHelpSubContents.Click();
     EXPECT_EQ(Desktop.HelpFiles, (std::vector<std::string>{"GT401.hlp"}));
-}
-
-TEST_F(Menus, AboutTakesTheMainWindowsPlaceWhileTheClockRunsOn) {
     F.MenuHelpSubAbout.Click();
-    EXPECT_FALSE(F.Visible);
-    EXPECT_TRUE(FormAbout.Visible);
+    EXPECT_TRUE(FormAbout.Visible && !F.Visible);
     EXPECT_EQ(FormAbout.LabelAbout.Caption, "Gloamtide Version 4.01");
     const double Before = state.CurrentJD;
     Desktop.Advance(2000);
     EXPECT_GT(state.CurrentJD, Before);
     FormAbout.Close();  // the window's own close button does what OK does
-    EXPECT_TRUE(F.Visible);
-    EXPECT_FALSE(FormAbout.Visible);
-    EXPECT_TRUE(FormAbout.Loaded());
-}
-
-TEST_F(Menus, BothQuitCommandsEndTheProgram) {
-    F.MenuFileSubQuit.Click();
-    EXPECT_TRUE(Desktop.Ended);
-    Desktop.Ended = false;
-    F.MenuQuit.Click();
-    EXPECT_TRUE(Desktop.Ended);
+    EXPECT_TRUE(F.Visible && !FormAbout.Visible && FormAbout.Loaded());
 }
 
 }  // namespace

@@ -18,11 +18,8 @@ struct DemoForm : Form {
     ComboBox Names{*this, "Names", ComboStyle::DropDownCombo, true};
     ComboBox Zones{*this, "Zones", ComboStyle::DropDownList};
     PictureBox Picture{*this, "Picture"};
-    ControlArray<PictureBox, 2> Panels{*this, "Panels"};
-    ControlArray<Label, 2> OnPanels{Panels, "OnPanels"};
     Label Child{Picture, "Child"};
     CommandButton Cancel{Picture, "Cancel"};
-    Timer Clock{*this, "Clock"};
 };
 
 struct CountingObserver : ElementObserver {
@@ -35,18 +32,18 @@ protected:
     Controls() { LoadedForms.clear(); }
 
     HeadlessHost Desktop;
+    CountingObserver Observer;
     DemoForm Demo;
 };
 
 TEST_F(Controls, AnObserverHearsOfChangesOnly) {
-    CountingObserver Observer;
-    Demo.Child.Observer = &Observer;
-    Demo.Child.Caption = "Noon";
-    Demo.Child.Caption = "Noon";
-    EXPECT_EQ(Observer.Changes, 1);
-    Demo.Child.Left = 15.0;
-    Demo.Child.Left = 15.0;
-    EXPECT_EQ(Observer.Changes, 2);
+    Demo.Child.Observer = Demo.Names.Observer = &Observer;
+    for (int Time = 0; Time < 2; ++Time) {
+        Demo.Child.Caption = "Noon";
+        Demo.Child.Left = 15.0;
+        Demo.Names.Text = "Rome";
+        EXPECT_EQ(Observer.Changes, 3);
+    }
 }
 
 TEST_F(Controls, AnOptionTakesTheSelectionFromItsNeighboursOnly) {
@@ -54,37 +51,34 @@ TEST_F(Controls, AnOptionTakesTheSelectionFromItsNeighboursOnly) {
     Demo.Elsewhere.Value = true;
     Demo.Option[0].Value = true;
     Demo.Option[1].Click = [&] { ++Clicks; };
-    Demo.Option[1].Value = true;
-    Demo.Option[1].Value = true;
+    for (int Time = 0; Time < 2; ++Time) Demo.Option[1].Value = true;
     EXPECT_EQ(Clicks, 1);
-    EXPECT_FALSE(Demo.Option[0].Value);
-    EXPECT_TRUE(Demo.Elsewhere.Value);
+    EXPECT_TRUE(Demo.Elsewhere.Value && !Demo.Option[0].Value);
 }
 
 TEST_F(Controls, ASortedListKeepsItemDataWithItsEntries) {
     const char* const Given[] = {"Rome", "athens", "Oslo", "Rome"};
+    std::string Sorted;
     for (int Row = 0; Row < 4; ++Row) {
         Demo.Names.AddItem(Given[Row]);
         Demo.Names.SetItemData(Demo.Names.NewIndex, Row);
     }
-    ASSERT_EQ(Demo.Names.ListCount(), 4);
-    EXPECT_EQ(Demo.Names.List(0), "athens");
-    EXPECT_EQ(Demo.Names.ItemData(0), 1);
-    EXPECT_EQ(Demo.Names.List(1), "Oslo");
-    EXPECT_EQ(Demo.Names.ItemData(2), 0);
-    EXPECT_EQ(Demo.Names.ItemData(3), 3);
+    for (int Row = 0; Row < 4; ++Row) Sorted += Demo.Names.List(Row) + std::to_string(Demo.Names.ItemData(Row)) + " ";
+    EXPECT_EQ(Sorted, "athens1 Oslo2 Rome0 Rome3 ");
+    Demo.Names.ListIndex = 1;
+    Demo.Names.Type("My garden");
+    EXPECT_EQ(Demo.Names.ListIndex, -1) << "typing leaves the list";
+    EXPECT_EQ(Demo.Names.Text, "My garden");
 }
 
 TEST_F(Controls, AListPositionSetsTextAndRaisesClickWhenItChanges) {
     int Clicks = 0;
     for (const char* Entry : {"A", "B", "C"}) Demo.Zones.AddItem(Entry);
     Demo.Zones.Click = [&] { ++Clicks; };
-    Demo.Zones.ListIndex = 1;
-    Demo.Zones.ListIndex = 1;
+    for (int Time = 0; Time < 2; ++Time) Demo.Zones.ListIndex = 1;
     EXPECT_EQ(Clicks, 1);
     EXPECT_EQ(Demo.Zones.Text, "B");
     Demo.Zones.Pick(1);  // the user picks what is selected already
-    EXPECT_EQ(Clicks, 2);
     for (const int Beyond : {3, 1000, -7}) {
         Demo.Zones.ListIndex = Beyond;
         EXPECT_EQ(Demo.Zones.ListIndex, -1);
@@ -92,25 +86,13 @@ TEST_F(Controls, AListPositionSetsTextAndRaisesClickWhenItChanges) {
     EXPECT_EQ(Clicks, 2);
     Demo.Zones.ListIndex = 2;
     Demo.Zones.Clear();
-    EXPECT_EQ(Demo.Zones.ListIndex, -1);
-    EXPECT_EQ(Demo.Zones.ListCount(), 0);
+    EXPECT_TRUE(Demo.Zones.ListIndex == -1 && Demo.Zones.ListCount() == 0);
     EXPECT_EQ(Clicks, 3);
-}
-
-TEST_F(Controls, TypingLeavesTheListWithoutSelection) {
-    Demo.Names.AddItem("Rome");
-    Demo.Names.ListIndex = 0;
-    Demo.Names.Type("My garden");
-    EXPECT_EQ(Demo.Names.ListIndex, -1);
-    EXPECT_EQ(Demo.Names.Text, "My garden");
-    Demo.Names.Pick(0);
-    EXPECT_EQ(Demo.Names.Text, "Rome");
 }
 
 TEST_F(Controls, AControlStaysWhereItWasPutWhenTheScaleChanges) {
     Demo.Picture.Size(3000.0, 1500.0);  // twips: 200 by 100 pixels
     Demo.Child.Move(300.0, 150.0);
-    EXPECT_EQ(Demo.Child.Left.Pixels(), 20.0);
     Demo.Picture.Scale(-1100.0, 1100.0, 1100.0, -600.0);
     EXPECT_EQ(Demo.Child.Left.Pixels(), 20.0);
     EXPECT_DOUBLE_EQ(Demo.Child.Left, -1100.0 + 20.0 * 11.0);
@@ -118,54 +100,25 @@ TEST_F(Controls, AControlStaysWhereItWasPutWhenTheScaleChanges) {
     Demo.Child.Move(0.0, 250.0);
     EXPECT_DOUBLE_EQ(Demo.Child.Left.Pixels(), 100.0);
     EXPECT_DOUBLE_EQ(Demo.Child.Top.Pixels(), 50.0);
-    EXPECT_DOUBLE_EQ(Demo.Picture.ScaleWidth(), 2200.0);
-    EXPECT_DOUBLE_EQ(Demo.Picture.ScaleHeight(), -1700.0);
     Demo.Picture.Scale(5.0, 5.0, 5.0, 5.0);  // no scale at all
     EXPECT_DOUBLE_EQ(Demo.Picture.ScaleWidth(), 2200.0);
-}
-
-TEST_F(Controls, ArraysAreNamedByIndexAndMayHaveAParentEach) {
-    EXPECT_EQ(Demo.OnPanels[1].Name, "OnPanels(1)");
-    EXPECT_EQ(Demo.OnPanels[1].Parent, &Demo.Panels[1]);
-    EXPECT_EQ(Demo.Option[1].Parent, &Demo.Choice);
+    EXPECT_DOUBLE_EQ(Demo.Picture.ScaleHeight(), -1700.0);
 }
 
 TEST_F(Controls, AFormLoadsAndUnloadsOnceAndClosesByItsCancelButton) {
-    int Loads = 0;
-    int Unloads = 0;
-    int Cancels = 0;
-    Demo.OnLoad = [&] { ++Loads; };
-    Demo.OnUnload = [&] { ++Unloads; };
-    Demo.Show();
-    Demo.Show();
-    EXPECT_EQ(Loads, 1);
+    std::string Events;
+    Demo.OnLoad = [&] { Events += "load "; };
+    Demo.OnUnload = [&] { Events += "unload "; };
+    Demo.Cancel.Click = [&] { Events += "cancel "; };
     Demo.Cancel.Cancel = true;
-    Demo.Cancel.Click = [&] { ++Cancels; };
+    Demo.Show();
+    Demo.Show();
     Demo.Close();
-    EXPECT_EQ(Cancels, 1);
-    EXPECT_TRUE(Demo.Loaded());
     Demo.Cancel.Cancel = false;
     Demo.Close();
     Demo.Unload();
-    EXPECT_EQ(Unloads, 1);
-    EXPECT_FALSE(Demo.Visible);
-    EXPECT_TRUE(LoadedForms.empty());
-}
-
-TEST_F(Controls, TheTestClockRaisesTicksInTime) {
-    std::vector<int> Seconds;
-    Demo.Clock.Interval = 1000;
-    Demo.Clock.Tick = [&] {
-        Seconds.push_back(Desktop.System.Second);
-        Demo.Clock.Enabled = Seconds.size() < 3;
-    };
-    Demo.Clock.Enabled = true;
-    Demo.Load();
-    Desktop.System = {2026, 12, 4, 31, 23, 59, 58, 500};
-    Desktop.Advance(10000);
-    EXPECT_EQ(Seconds, (std::vector<int>{59, 0, 1}));
-    EXPECT_EQ(Desktop.System.Year, 2027);
-    EXPECT_EQ(Desktop.System.Second, 8);
+    EXPECT_EQ(Events, "load cancel unload ");
+    EXPECT_TRUE(!Demo.Visible && LoadedForms.empty());
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // Any bytes as a configuration file.
 #pragma once
 
+#include <cstdio>
 #include <fstream>
 #include <string>
 
@@ -14,6 +15,7 @@ namespace gloamtide {
 // Opens a file of these bytes with the File menu of the running program and lets the clock tick. True where the program
 // took the file without a word.
 inline bool OpenConfigurationBytes(HeadlessHost& Desktop, const std::string& Bytes) {
+    std::remove("any.gtf");  // some file systems write a truncated file to the disk before they go on
     std::ofstream("any.gtf", std::ios::binary) << Bytes;
     Desktop.FileNames = {"any.gtf"};
     Desktop.Messages.clear();

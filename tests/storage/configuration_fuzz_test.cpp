@@ -98,12 +98,8 @@ bool HoldsItsName(const std::string& Bytes) {
 class AnyConfiguration : public ProgramTest, public testing::WithParamInterface<unsigned> {};
 
 TEST_P(AnyConfiguration, IsShownOrRefusedWithAMessage) {
-#ifdef __SANITIZE_ADDRESS__
-    constexpr int Files = 12'500;  // 100,000 of all seeds
-#else
-    constexpr int Files = 1'000;  // what goes wrong here is what the sanitizers find
-#endif
-    Desktop.ScreenWidth = 640;  // the smallest map
+    constexpr int Files = 12'500 / SanitizedShare;  // 100,000 of all seeds
+    Desktop.ScreenWidth = 640;                      // the smallest map
     Start();
     state.ShowMapGrid = state.ShowAnalemma = state.ShowCities = state.ShowTimezones = True;
     state.ShowSun = state.ShowMoon = state.ShowSundial = True;

@@ -48,7 +48,7 @@ function eachCoveredPixel(shape, visit) {
         }
 }
 
-const polygonsOf = ({ geometry }) => geometry.type === 'Polygon' ? [geometry.coordinates] : geometry.coordinates;
+export const polygonsOf = ({ geometry }) => geometry.type === 'Polygon' ? [geometry.coordinates] : geometry.coordinates;
 
 const small = 4; // columns or rows up to which an island is in danger of falling between the pixels
 const offshore = 0.3; // share from which an islet beside other land is drawn all the same: less only frays the coast

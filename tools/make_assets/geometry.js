@@ -6,6 +6,8 @@ export const north = 80;
 export const south = -70;
 export const columnsPerDegree = width / 360;
 export const rowsPerDegree = height / (north - south);
+export const fineWidth = 4096; // of the fine maps, in the same frame
+export const fineHeight = 1707;
 export const kmPerDegree = 111.2; // of latitude
 
 export const radians = (degrees) => (degrees * Math.PI) / 180;

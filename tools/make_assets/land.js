@@ -3,7 +3,7 @@
 import { countryOfPixels } from './countries.js';
 import { eachNeighbour, height, north, rowsPerDegree, width } from './geometry.js';
 
-const lakePixels = 6; // smaller inland waters are left out
+export const lakePixels = 6; // smaller inland waters are left out
 
 // Country index of each map pixel, -1 for sea and lakes.
 export function landPixels(raster) {

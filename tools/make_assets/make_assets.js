@@ -1,6 +1,5 @@
 // Makes the stored pictures of the program and the table of city zones that a test reads.
 
-import { mkdirSync, writeFileSync } from 'node:fs';
 import { encodeBmp } from './bmp.js';
 import { cityZonesText, loadCities } from './cities.js';
 import { iconBmp, iconPng } from './icon.js';
@@ -9,16 +8,8 @@ import { naturalMap } from './natural_map.js';
 import { loadNaturalEarth } from './natural_earth.js';
 import { politicalMap } from './political_map.js';
 import { splash } from './splash.js';
+import { write } from './writing.js';
 import { zoneMask } from './zone_mask.js';
-
-const project = new URL('../../', import.meta.url);
-
-function write(file, content) {
-    const place = new URL(file, project);
-    mkdirSync(new URL('.', place), { recursive: true });
-    writeFileSync(place, content);
-    console.log(`${file}: ${content.length} bytes`);
-}
 
 const writePicture = (file, picture) => write(file, encodeBmp(picture));
 

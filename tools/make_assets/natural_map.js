@@ -30,7 +30,7 @@ export function naturalMap(raster, country) {
 }
 
 // Raster pixels that are land and touch no water, so that no blue of the sea has bled into them.
-function inlandPixels({ width: columns, height: rows, water }) {
+export function inlandPixels({ width: columns, height: rows, water }) {
     return water.map((_, index) => {
         const x = index % columns;
         const y = Math.floor(index / columns);
@@ -40,8 +40,9 @@ function inlandPixels({ width: columns, height: rows, water }) {
     });
 }
 
-const searchMargins = [0, 1, 2, 4, 8, 16, 32]; // raster pixels round the map pixel that are searched for land, in turn
-const atollColour = [150, 176, 92]; // of lone islands that the raster is too coarse for
+// Raster pixels round the map pixel that are searched for land, in turn.
+export const searchMargins = [0, 1, 2, 4, 8, 16, 32];
+export const atollColour = [150, 176, 92]; // of lone islands that the raster is too coarse for
 
 // Mean colour of the inland that the raster shows at a map pixel or, if it shows none, near it.
 function landColour(raster, inland, pixel) {
@@ -58,7 +59,7 @@ function landColour(raster, inland, pixel) {
     return atollColour;
 }
 
-function strengthened(colour) {
+export function strengthened(colour) {
     const grey = 0.3 * colour[0] + 0.59 * colour[1] + 0.11 * colour[2];
     return colour.map((value) => {
         const vivid = grey + (value - grey) * saturation;

@@ -5,7 +5,6 @@ import { at, eachNeighbour, height, width } from './geometry.js';
 import { dayAndNight } from './map_pictures.js';
 
 const night = { seaByNight: [0, 0, 3], darkerBy: 50 };
-const antarctica = [236, 238, 240];
 const fills = [
     [246, 226, 150], // straw
     [160, 204, 140], // meadow
@@ -15,23 +14,28 @@ const fills = [
     [226, 154, 168], // rose
     [158, 204, 196], // sage
 ];
+export const politicalColours = [...fills, [236, 238, 240]]; // the last is Antarctica's
 const borderTint = 0.78; // of the country's own colour
+export const borderColours = politicalColours.map((colour) => colour.map((value) => Math.round(value * borderTint)));
 
-const isAntarctica = (number) => countries[number].properties.name === 'Antarctica';
+const isAntarctica = ({ properties }) => properties.name === 'Antarctica';
 
 export function politicalMap(country) {
-    const neighbours = neighbourSets(country);
-    const fillOf = colourCountries(neighbours, country);
-    report(neighbours, fillOf);
-    const colours = [...fills, antarctica];
+    const colourOf = countryColours(country);
     const pixels = new Uint8Array(width * height);
     country.forEach((number, pixel) => {
         if (number < 0) return;
-        const fill = isAntarctica(number) ? fills.length : fillOf[number];
-        pixels[pixel] = 1 + fill + (isBorder(country, pixel) ? colours.length : 0);
+        pixels[pixel] = 1 + colourOf[number] + (isBorder(country, pixel) ? politicalColours.length : 0);
     });
-    const borders = colours.map((colour) => colour.map((value) => Math.round(value * borderTint)));
-    return dayAndNight(pixels, [...colours, ...borders], night);
+    return dayAndNight(pixels, [...politicalColours, ...borderColours], night);
+}
+
+// For each country the index of its colour.
+export function countryColours(country) {
+    const neighbours = neighbourSets(country);
+    const fillOf = colourCountries(neighbours, country);
+    report(neighbours, fillOf);
+    return fillOf.map((fill, number) => (isAntarctica(countries[number]) ? fills.length : fill));
 }
 
 // Countries that share a border in the polygons, or whose pixels touch.

@@ -89,12 +89,13 @@ QRect ControlWatcher::RoomForLetters(QRect Box, bool OnPicture, int Border) {
     const bool AtLeftEdge = Box.left() <= Border && Text.alignment().testFlag(Qt::AlignLeft);
     const int Overhang = AtLeftEdge ? std::max(0, -Ink.left()) : 0;
     Text.setContentsMargins(Overhang, 0, 0, 0);
-    // Letters do not touch a border; at an open edge the last letter's soft rim may be cut.
     const int Edge = qRound(Record.Parent->InnerWidth()) + Border;
+    if (Box.left() + Box.width() < Edge - Border) return Box;
+    // Letters do not touch a border; at an open edge the last letter's soft rim may be cut.
     const int Last = Border > 0 ? Edge - 1 : Edge + 1;
     const int InkEnd = Box.left() + Overhang + Ink.right() + 1;
     if (InkEnd > Last) Box.translate(Last - InkEnd, 0);
-    if (Box.left() + Needed.width() > Edge) Box.setRight(Edge - 1);
+    Box.setRight(std::min(Edge, Box.left() + Needed.width()) - 1);
     return Box;
 }
 
