@@ -4,23 +4,11 @@
 set -euo pipefail
 
 Build=$(cd "$1" && pwd)
-for Tool in dpkg-shlibdeps lintian appstreamcli desktop-file-validate Xvfb openbox xdotool; do
+for Tool in dpkg-shlibdeps lintian appstreamcli desktop-file-validate; do
     command -v "$Tool" >/dev/null || { echo "needs $Tool"; exit 77; }
 done
 ((EUID == 0)) || { echo "needs root"; exit 77; }
-
-Scratch=$(mktemp -d)
-Jobs=()
-CleanUp() {
-    kill "${Jobs[@]}" 2>/dev/null || true
-    wait
-    rm -rf "$Scratch"
-}
-trap CleanUp EXIT
-Fail() {
-    echo "FAILED: $1"
-    exit 1
-}
+source "$(dirname "${BASH_SOURCE[0]}")/virtual_desktop.sh"
 
 (cd "$Build" && cpack -G DEB -B "$Scratch/package" >"$Scratch/cpack.log") || { cat "$Scratch/cpack.log"; exit 1; }
 Package=$(echo "$Scratch"/package/*.deb)
@@ -37,38 +25,18 @@ appstreamcli validate --no-net "$Root"/usr/share/metainfo/*.xml
 (cd "$Scratch" && "$Root/usr/bin/gloamtide-still" picture.png) || Fail "gloamtide-still"
 
 # The menu entry, in a home of its own.
-export QT_QPA_PLATFORM=xcb HOME=$Scratch/home PATH=$Root/usr/bin:$PATH
+export HOME=$Scratch/home PATH=$Root/usr/bin:$PATH
 unset XDG_CONFIG_HOME
-# $1: a command that shall succeed soon, $2: what failed if it does not
-Await() {
-    local Deadline=$((SECONDS + 30))
-    until eval "$1"; do
-        ((SECONDS < Deadline)) || Fail "$2"
-        sleep 0.1
-    done
-}
-AwaitWindow() { Await "xdotool getactivewindow getwindowname 2>/dev/null | grep -qF '$1'" "no window $1"; }
-
-Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp -noreset 3>"$Scratch/display" 2>/dev/null &
-Jobs+=($!)
-Await "[[ -s '$Scratch/display' ]]" "no display"
-DISPLAY=:$(cat "$Scratch/display")
-export DISPLAY
-openbox --sm-disable >/dev/null 2>&1 &
-Jobs+=($!)
-Await 'xdotool get_num_desktops >/dev/null 2>&1' "no window manager"
-
 mkdir -p "$HOME"
-"$Root$(sed -n 's/^Exec=//p' "$Desktop")" &
-Program=$!
-Jobs+=("$Program")
+StartDisplay 1024x768
+Start "$Root$(sed -n 's/^Exec=//p' "$Desktop")"
 AwaitWindow 'File Not Found'
-xdotool key Return
+Press Return
 AwaitWindow 'Gloamtide ('
-xdotool key alt+q
+Press alt+q
 AwaitWindow 'Save Configuration?'
-xdotool key alt+n
-wait "$Program" || Fail "the program did not end well"
+Press alt+n
+ExpectEnd
 [[ -f $HOME/.config/gloamtide/Startup.dat ]] || Fail "no start-up file in the user's folder"
 
 "${Dpkg[@]}" --remove gloamtide >/dev/null 2>&1

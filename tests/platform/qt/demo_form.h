@@ -3,10 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QTest>
-#include <QTimer>
-#include <QWidget>
+#include <QtTest>
+#include <QtWidgets>
 #include <stdexcept>
 
 #include "platform/combo_box.h"
@@ -18,66 +16,50 @@ namespace gloamtide {
 
 struct DemoForm : Form {
     DemoForm() : Form("DemoForm", 6000.0, 4500.0) {
-        Caption = "A window for tests";
-        Picture.Move(150.0, 150.0);
+        const auto Entitle = [](auto&... Each) { ((Each.Caption = Each.Name), ...); };
+        Entitle(OnPicture, Choice, North, South, Heading, OK, Cancel);
+        const std::tuple<Control&, double, double> Places[] = {
+            {Picture, 150.0, 150.0}, {Choice, 1800.0, 150.0}, {South, 0.0, 450.0},    {Cancel, 1500.0, 600.0},
+            {Tick, 1800.0, 1200.0},  {Heading, 0.0, 1800.0},  {Year, 2700.0, 1500.0}, {Names, 1800.0, 1950.0},
+            {Zones, 1800.0, 2400.0}, {OK, 1800.0, 3000.0}};
+        for (const auto& [Each, X, Y] : Places) Each.Move(X, Y);
         Picture.Size(1530.0, 1530.0);  // 102 pixels with the border
         Picture.BorderWidth = 1;
         Picture.Scale(100.0, 80.0, 0.0, -70.0);
-        Picture.Description = "The world";
-        OnPicture.Caption = "Noon";
-        OnPicture.ForeColor = RGB(255, 255, 0);
-        OnPicture.ToolTipText = "When the Sun stands highest";
         OnPicture.Size(40.0, 30.0);
-        Choice.Move(1800.0, 150.0);
-        Choice.Size(3000.0, 900.0);
-        Choice.Caption = "Side";
-        North.Caption = "&North";
-        South.Caption = "South";
-        South.Top = 450.0;
-        Tick.Caption = "Ticked";
-        Tick.Move(1800.0, 1200.0);
-        Heading.Caption = "Year";
-        Heading.Move(1800.0, 1500.0);
-        Year.Move(2700.0, 1500.0);
-        Names.Move(1800.0, 1950.0);
-        Names.Width = 2000.0;
-        Zones.Move(1800.0, 2400.0);
-        OK.Caption = "OK";
+        Choice.Size(3000.0, 1000.0);
         OK.Default = true;
-        OK.Move(1800.0, 3000.0);
-        Cancel.Caption = "Cancel";
         Cancel.Cancel = true;
-        Cancel.Move(3300.0, 3000.0);
-        for (const char* Entry : {"Rome", "Athens", "Oslo"}) {
-            Names.AddItem(Entry);
-            Zones.AddItem(Entry);
+        for (ComboBox* List : {&Names, &Zones}) {
+            for (const char* Entry : {"Rome", "Athens", "Oslo"}) List->AddItem(Entry);
         }
     }
 
-    Menu File{*this, "MenuFile", "&File"};
-    Menu Open{File, "MenuFileSubOpen", "&Open"};
-    Menu OpenSep{File, "MenuFileSubOpenSep"};
-    Menu Save{File, "MenuFileSubSave", "&Save"};
-    Menu Quit{*this, "MenuQuit", "&Quit"};
+    Menu File{*this, "File", "&File"};
+    Menu Open{File, "Open", "&Open"};
+    Menu Save{File, "Save", "&Save"};
+    Menu Quit{*this, "Quit", "&Quit"};
     PictureBox Picture{*this, "Picture"};
     Label OnPicture{Picture, "OnPicture"};
     Frame Choice{*this, "Choice"};
     OptionButton North{Choice, "North"};
     OptionButton South{Choice, "South"};
+    CommandButton Cancel{Choice, "Cancel"};
     CheckBox Tick{*this, "Tick"};
     Label Heading{*this, "Heading"};
     TextBox Year{*this, "Year"};
     ComboBox Names{*this, "Names", ComboStyle::DropDownCombo, true};
     ComboBox Zones{*this, "Zones", ComboStyle::DropDownList};
     CommandButton OK{*this, "OK"};
-    CommandButton Cancel{*this, "Cancel"};
     Timer Clock{*this, "Clock"};
 };
 
 class DesktopTest : public testing::Test {
 protected:
     DesktopTest() {
-        LoadedForms.clear();
+        const auto Hear = [this](auto&... Each) { ((Each.Click = [&] { Heard += Each.Name + " "; }), ...); };
+        Hear(Demo.Open, Demo.Save, Demo.Quit, Demo.North, Demo.South, Demo.Cancel, Demo.Tick, Demo.Names, Demo.Zones,
+             Demo.OK);
         Demo.Show();
     }
     ~DesktopTest() override { LoadedForms.clear(); }
@@ -93,18 +75,25 @@ protected:
         return *Found;
     }
 
+    // Waits while a timer of one millisecond fires four times; false if it does not.
+    static bool PassTime() {
+        int Beats = 0;
+        QTimer Other;
+        QObject::connect(&Other, &QTimer::timeout, [&] { ++Beats; });
+        Other.start(1);
+        return QTest::qWaitFor([&] { return Beats >= 4; });
+    }
+
     // Runs Answer once the next dialog is open.
     template <class Dialog>
     static void WhenOpen(std::function<void(Dialog&)> Answer) {
         QTimer::singleShot(0, [Answer] {
-            if (auto* Box = qobject_cast<Dialog*>(QApplication::activeModalWidget()); Box != nullptr) {
-                Answer(*Box);
-            } else {
-                WhenOpen<Dialog>(Answer);
-            }
+            auto* Box = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+            Box == nullptr ? WhenOpen<Dialog>(Answer) : Answer(*Box);
         });
     }
 
+    std::string Heard;  // names of the controls whose Click came
     DemoForm Demo;
     QtHost Desktop;  // after the form, so that its windows go first
 };

@@ -1,98 +1,68 @@
 #include "platform/qt/dialogs.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileDialog>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTemporaryDir>
-
 #include "demo_form.h"
 
 namespace gloamtide {
 namespace {
 
-class Dialogs : public DesktopTest {
-protected:
-    std::string Path(const QString& Name) const { return Folder.filePath(Name).toStdString(); }
-
-    void MakeFile(const QString& Name) const {
-        QFile File(Folder.filePath(Name));
-        ASSERT_TRUE(File.open(QIODevice::WriteOnly));
-    }
-
-    FileDialog Asking(const QString& Name) const {
-        return {"Gloamtide Files (*.gtf)|*.gtf|All Files (*.*)|*.*", Path(Name)};
-    }
-
-    const QTemporaryDir Folder;
-};
+using Dialogs = DesktopTest;
 
 TEST_F(Dialogs, AMessageHasTitleTextIconAndAnswer) {
-    WhenOpen<QMessageBox>([&](QMessageBox& Box) {
-        EXPECT_EQ(Box.windowTitle(), "Save Configuration?");
-        EXPECT_EQ(Box.text(), "Do <i>you</i>?");
-        EXPECT_EQ(Box.textFormat(), Qt::PlainText);
-        EXPECT_EQ(Box.icon(), QMessageBox::Question);
-        EXPECT_EQ(Box.windowModality(), Qt::ApplicationModal);
-        EXPECT_EQ(Box.parentWidget(), &Window());
-        Box.button(QMessageBox::Yes)->click();
-    });
     const MessageBox Question = {"Save Configuration?", "Do <i>you</i>?", MessageIcon::Question, MessageButtons::YesNo};
-    EXPECT_EQ(Desktop.ShowMessage(Question), MessageAnswer::Yes);
-    WhenOpen<QMessageBox>([](QMessageBox& Box) { QTest::keyClick(&Box, Qt::Key_Escape); });
-    EXPECT_EQ(Desktop.ShowMessage(Question), MessageAnswer::No);
-    WhenOpen<QMessageBox>([](QMessageBox& Box) {
-        EXPECT_EQ(Box.icon(), QMessageBox::Warning);
-        QTest::keyClick(&Box, Qt::Key_Return);
-    });
-    EXPECT_EQ(Desktop.ShowMessage({"A title", "Text", MessageIcon::Exclamation}), MessageAnswer::OK);
-}
-
-TEST_F(Dialogs, OpenOffersFiltersAndGivesTheChosenFile) {
-    MakeFile("home.gtf");
-    WhenOpen<QFileDialog>([](QFileDialog& Box) {
-        EXPECT_EQ(Box.nameFilters(), (QStringList{"Gloamtide Files (*.gtf)", "All Files (*)"}));
-        EXPECT_EQ(Box.selectedNameFilter(), "Gloamtide Files (*.gtf)");
-        EXPECT_EQ(Box.fileMode(), QFileDialog::ExistingFile);
-        static_cast<QDialog&>(Box).accept();
-    });
-    EXPECT_EQ(Desktop.ShowOpenDialog(Asking("home.gtf")), Path("home.gtf"));
-    WhenOpen<QFileDialog>([](QFileDialog& Box) { Box.reject(); });
-    EXPECT_EQ(Desktop.ShowOpenDialog(Asking("home.gtf")), std::nullopt);
-}
-
-TEST_F(Dialogs, SaveOffersTheNameAndAsksBeforeItOverwrites) {
-    WhenOpen<QFileDialog>([](QFileDialog& Box) {
-        EXPECT_EQ(Box.acceptMode(), QFileDialog::AcceptSave);
-        static_cast<QDialog&>(Box).accept();
-    });
-    EXPECT_EQ(Desktop.ShowSaveDialog(Asking("new.gtf")), Path("new.gtf"));
-
-    MakeFile("old.gtf");
-    bool Asked = false;
-    WhenOpen<QFileDialog>([&](QFileDialog& Box) {
-        WhenOpen<QMessageBox>([&](QMessageBox& Question) {
-            Asked = true;
-            Question.button(QMessageBox::No)->click();
+    const std::tuple<MessageBox, QMessageBox::Icon, QMessageBox::StandardButton, MessageAnswer> Cases[] = {
+        {Question, QMessageBox::Question, QMessageBox::Yes, MessageAnswer::Yes},
+        {Question, QMessageBox::Question, QMessageBox::No, MessageAnswer::No},
+        {{"A title", "Text", MessageIcon::Exclamation}, QMessageBox::Warning, QMessageBox::Ok, MessageAnswer::OK},
+        {{"Another", "Text"}, QMessageBox::NoIcon, QMessageBox::NoButton, MessageAnswer::OK}};
+    for (const auto& [Message, Icon, Pressed, Answer] : Cases) {
+        WhenOpen<QMessageBox>([&, &Wanted = Message, Shown = Icon, Press = Pressed](QMessageBox& Box) {
+            const std::tuple Look(Box.windowTitle().toStdString(), Box.text().toStdString(), Box.textFormat());
+            EXPECT_EQ(Look, std::tuple(Wanted.Title, Wanted.Text, Qt::PlainText));
+            EXPECT_EQ(std::tuple(Box.icon(), Box.parentWidget()), std::tuple(Shown, &Window()));
+            const bool Waits = Press != QMessageBox::NoButton;
+            if (!Waits || Wanted.Buttons == MessageButtons::YesNo) QTest::keyClick(&Box, Qt::Key_Escape);
+            if (Wanted.Buttons == MessageButtons::YesNo) Box.close();
+            EXPECT_EQ(Box.isVisible(), Waits) << "a question waits for one of its buttons";
+            if (Waits) Box.button(Press)->click();
         });
-        static_cast<QDialog&>(Box).accept();
-        EXPECT_TRUE(Box.isVisible()) << "the user said No";
-        Box.reject();
-    });
-    EXPECT_EQ(Desktop.ShowSaveDialog(Asking("old.gtf")), std::nullopt);
-    EXPECT_TRUE(Asked);
+        EXPECT_EQ(Desktop.ShowMessage(Message), Answer) << Message.Title;
+    }
 }
 
-TEST_F(Dialogs, SaveGivesANameWithoutAnEndingThatOfTheFilter) {
-    WhenOpen<QFileDialog>([](QFileDialog& Box) { static_cast<QDialog&>(Box).accept(); });
-    EXPECT_EQ(Desktop.ShowSaveDialog(Asking("home")), Path("home.gtf"));
-    WhenOpen<QFileDialog>([](QFileDialog& Box) {
-        Box.selectNameFilter("All Files (*)");
-        emit Box.filterSelected("All Files (*)");  // as when the user picks it
-        static_cast<QDialog&>(Box).accept();
-    });
-    EXPECT_EQ(Desktop.ShowSaveDialog(Asking("home")), Path("home"));
+TEST_F(Dialogs, FilesAreChosenAsTheirDialogPromises) {
+    const struct {
+        bool ToSave;
+        const char* Offered;
+        bool TakesAll;                       // files
+        QMessageBox::StandardButton Answer;  // to a message that may come
+        const char* Chosen;                  // or nothing
+    } Cases[] = {{false, "home.gtf", false, QMessageBox::NoButton, "home.gtf"},
+                 {false, "nowhere.gtf", false, QMessageBox::Ok, nullptr},
+                 {true, "home.gtf", false, QMessageBox::No, nullptr},  // asks before it overwrites
+                 {true, "home.gtf", false, QMessageBox::Yes, "home.gtf"},
+                 {true, "new", false, QMessageBox::NoButton, "new.gtf"},  // the ending of the filter
+                 {true, "new.txt", false, QMessageBox::NoButton, "new.txt"},
+                 {true, "new", true, QMessageBox::NoButton, "new"}};
+    const QTemporaryDir Folder;
+    const auto PathOf = [&](const char* Name) { return Folder.filePath(Name).toStdString(); };
+    EXPECT_TRUE(QFile(Folder.filePath("home.gtf")).open(QIODevice::WriteOnly));
+    for (const auto& Case : Cases) {
+        const FileDialog Asked = {"Gloamtide Files (*.gtf)|*.gtf|All Files (*.*)|*.*", PathOf(Case.Offered)};
+        WhenOpen<QFileDialog>([&](QFileDialog& Box) {
+            EXPECT_EQ(Box.windowTitle(), Case.ToSave ? "Save As" : "Open");
+            EXPECT_EQ(Box.nameFilters(), (QStringList{"Gloamtide Files (*.gtf)", "All Files (*)"}));
+            EXPECT_EQ(Box.selectedNameFilter(), "Gloamtide Files (*.gtf)");
+            if (Case.TakesAll) Box.selectNameFilter("All Files (*)");
+            if (Case.TakesAll) emit Box.filterSelected("All Files (*)");  // as when the user picks it
+            const bool Asks = Case.Answer != QMessageBox::NoButton;
+            if (Asks) WhenOpen<QMessageBox>([&](QMessageBox& Told) { Told.button(Case.Answer)->click(); });
+            static_cast<QDialog&>(Box).accept();
+            EXPECT_EQ(Box.isVisible(), Case.Chosen == nullptr);
+            if (Box.isVisible()) Box.reject();
+        });
+        const auto Chosen = Case.ToSave ? Desktop.ShowSaveDialog(Asked) : Desktop.ShowOpenDialog(Asked);
+        EXPECT_EQ(Chosen.value_or("none"), Case.Chosen == nullptr ? "none" : PathOf(Case.Chosen));
+    }
 }
 
 TEST_F(Dialogs, AFilterOfAllFilesMeansThoseWithoutADotToo) {
