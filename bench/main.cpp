@@ -51,11 +51,15 @@ struct Line {
 };
 
 constexpr const char* FourCopies = "four memcpy of a map";
+constexpr const char* FourCopies2 = "four memcpy of a map, density 2";
+constexpr const char* FourCopies3 = "four memcpy of a map, density 3";
 constexpr const char* PlainRead = "a plain read of as many bytes";
 constexpr const char* PlainWrite = "a plain write, flush and rename";
 constexpr Line Lines[] = {
     {"RedrawMap, no overlay", FourCopies},
     {"RedrawMap, all overlays", FourCopies},
+    {"RedrawMap, all overlays, density 2", FourCopies2},
+    {"RedrawMap, all overlays, density 3", FourCopies3},
     {"one step of the animation, all overlays", FourCopies},
     {"the map pictures of a new type", FourCopies},
     {"one tick of the clock", FourCopies},

@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "bench/program.h"
+#include "forms/form_gt_main.h"
 #include "forms/form_pictures.h"
 #include "map/day_night.h"
 #include "map/stored_pictures.h"
@@ -13,9 +14,16 @@
 namespace gloamtide {
 namespace {
 
+void SetDensity(double Density) {
+    FormGTMain.PictureSundial.Density = Density;
+    FormGTMain.PictureGTContainer.Density = Density;
+    FormGTMain.PictureGT.Density = Density;
+}
+
 // Two rotations, the strips and the hand-over move about four bitmaps.
-void FourCopies(benchmark::State& Runs) {
+void FourCopies(benchmark::State& Runs, double Density) {
     StartOnce();
+    SetDensity(Density);
     const PicturesForm& F = FormPictures;
     const std::array<const Bitmap*, 4> From = {&F.PictureDay.Picture, &F.PictureNight.Picture,
                                                &F.PictureDaySplit.Picture, &F.PictureNightSplit.Picture};
@@ -27,24 +35,20 @@ void FourCopies(benchmark::State& Runs) {
             benchmark::ClobberMemory();
         }
     }
+    SetDensity(1.0);
 }
 
-void Redraw(benchmark::State& Runs) {
+void Redraw(benchmark::State& Runs, Boolean Overlays, double Density) {
     StartOnce();
-    for (auto _ : Runs) {
-        RedrawMap();
-        benchmark::ClobberMemory();
-    }
-}
-
-void RedrawWithOverlays(benchmark::State& Runs) {
-    StartOnce();
-    SetOverlays(True);
+    SetOverlays(Overlays);
+    SetDensity(Density);
+    RedrawMap();  // makes the pictures that are shown
     for (auto _ : Runs) {
         RedrawMap();
         benchmark::ClobberMemory();
     }
     SetOverlays(False);
+    SetDensity(1.0);
 }
 
 // After a change of the map type, with city marks and zone lines.
@@ -59,10 +63,15 @@ void Rebuild(benchmark::State& Runs) {
     RedrawMap();
 }
 
-BENCHMARK(FourCopies)->Name("four memcpy of a map")->Unit(benchmark::kMicrosecond);
-BENCHMARK(RedrawWithOverlays)->Name("RedrawMap, all overlays")->Unit(benchmark::kMicrosecond);
-BENCHMARK(Rebuild)->Name("the map pictures of a new type")->Unit(benchmark::kMicrosecond);
-BENCHMARK(Redraw)->Name("RedrawMap, no overlay")->Unit(benchmark::kMicrosecond);
+constexpr auto Micro = benchmark::kMicrosecond;
+BENCHMARK_CAPTURE(FourCopies, 1, 1.0)->Name("four memcpy of a map")->Unit(Micro);
+BENCHMARK_CAPTURE(FourCopies, 2, 2.0)->Name("four memcpy of a map, density 2")->Unit(Micro);
+BENCHMARK_CAPTURE(FourCopies, 3, 3.0)->Name("four memcpy of a map, density 3")->Unit(Micro);
+BENCHMARK_CAPTURE(Redraw, Plain, False, 1.0)->Name("RedrawMap, no overlay")->Unit(Micro);
+BENCHMARK_CAPTURE(Redraw, 1, True, 1.0)->Name("RedrawMap, all overlays")->Unit(Micro);
+BENCHMARK_CAPTURE(Redraw, 2, True, 2.0)->Name("RedrawMap, all overlays, density 2")->Unit(Micro);
+BENCHMARK_CAPTURE(Redraw, 3, True, 3.0)->Name("RedrawMap, all overlays, density 3")->Unit(Micro);
+BENCHMARK(Rebuild)->Name("the map pictures of a new type")->Unit(Micro);
 
 }  // namespace
 }  // namespace gloamtide

@@ -119,7 +119,7 @@ void RedrawMap() {
         LayDayRows();
     }
     DrawOverlays();
-    FormGTMain.PictureGT.SetPicture(FormPictures.PictureNightSplit.Picture);
+    FormGTMain.PictureGT.TakePicture(FormPictures.PictureNightSplit.Picture);
 }
 
 }  // namespace gloamtide

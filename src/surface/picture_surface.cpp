@@ -65,16 +65,21 @@ void PictureSurface::FillPixels(int FromX, int FromY, int ToX, int ToY, Color Fi
 }
 
 // Pens of an even width reach one device pixel farther to the right and down.
-void PictureSurface::Dot(PixelPoint Place, int Pen, Color DotColor) {
-    const int FromX = Place.X - (Pen - 1) / 2;
-    const int FromY = Place.Y - (Pen - 1) / 2;
-    FillPixels(FromX, FromY, FromX + Pen - 1, FromY + Pen - 1, DotColor);
+void PictureSurface::Dot(Bitmap& Target, PixelPoint Place, int Pen, Color DotColor) {
+    if (Pen > 1) {
+        const int FromX = Place.X - (Pen - 1) / 2;
+        const int FromY = Place.Y - (Pen - 1) / 2;
+        FillPixels(FromX, FromY, FromX + Pen - 1, FromY + Pen - 1, DotColor);
+    } else if (Place.X >= 0 && Place.Y >= 0 && Place.X < Target.Width && Place.Y < Target.Height) {
+        Target.Row(Place.Y)[Place.X] = DotColor;
+        Drawn(Place.X, Place.Y, Place.X, Place.Y);
+    }
 }
 
 // Goes along the longer axis, only where the bitmap is, and reckons the other coordinate afresh at each pixel: so a
 // line looks the same however much of it is clipped, and in whichever direction it is drawn.
 void PictureSurface::Stroke(PixelPoint From, PixelPoint To, Color LineColor) {
-    const Bitmap& Target = Canvas();
+    Bitmap& Target = Canvas();
     const int Pen = PenOf(DrawWidth);
     const bool Steep = std::abs(To.Y - From.Y) > std::abs(To.X - From.X);
     if (Steep ? From.Y > To.Y : From.X > To.X) std::swap(From, To);
@@ -111,7 +116,7 @@ void PictureSurface::Stroke(PixelPoint From, PixelPoint To, Color LineColor) {
         ++NextDot;
         const int Along = static_cast<int>(Start + Step);
         const int Across = static_cast<int>(Other);
-        Dot(Steep ? PixelPoint{Across, Along} : PixelPoint{Along, Across}, Pen, LineColor);
+        Dot(Target, Steep ? PixelPoint{Across, Along} : PixelPoint{Along, Across}, Pen, LineColor);
     }
 }
 
@@ -144,7 +149,7 @@ void PictureSurface::LineTo(double X, double Y, Color LineColor) { Line(CurrentX
 void PictureSurface::PSet(double X, double Y, Color DotColor) {
     CurrentX = X;
     CurrentY = Y;
-    if (const auto Place = PixelAt(X, Y)) Dot(*Place, PenOf(DrawWidth), DotColor);
+    if (const auto Place = PixelAt(X, Y)) Dot(Canvas(), *Place, PenOf(DrawWidth), DotColor);
 }
 
 void PictureSurface::PSetStep(double StepX, double StepY, Color DotColor) {
@@ -173,10 +178,11 @@ void PictureSurface::Ellipse(double X, double Y, double Radius, double Aspect, C
     if (!Centre || !std::isfinite(Longer) || !(Aspect > 0.0)) return;
     const int Pen = PenOf(1);
     if (Longer < 1.0) {
-        if (OnArc(0, 0)) Dot(*Centre, Pen, LineColor);
+        if (OnArc(0, 0)) Dot(Canvas(), *Centre, Pen, LineColor);
         return;
     }
-    const auto HalfAxis = [&](double Pixels) { return std::min(Pixels * Density + (Pen - 1) / 2.0, FarthestPixel); };
+    const int Before = (Pen - 1) / 2;
+    const auto HalfAxis = [&](double Pixels) { return std::min(Pixels * Density + Before, FarthestPixel); };
     const double A = HalfAxis(Aspect > 1.0 ? Longer / Aspect : Longer);
     const double B = HalfAxis(Aspect < 1.0 ? Longer * Aspect : Longer);
     const double InnerA = std::max(A - (Pen - 1), 0.0);
@@ -272,6 +278,16 @@ void PictureSurface::SetPicture(const Bitmap& Image) {
         std::memcpy(Target.Row(Y), Image.Row(Y), static_cast<std::size_t>(Columns) * sizeof(Color));
     }
     if (Columns > 0 && Rows > 0) Drawn(0, 0, Columns - 1, Rows - 1);
+}
+
+void PictureSurface::TakePicture(Bitmap& Image) {
+    Bitmap& Target = Canvas();
+    if (Target.Width != Image.Width || Target.Height != Image.Height) {
+        SetPicture(Image);
+        return;
+    }
+    Target.Pixels.swap(Image.Pixels);
+    if (!Target.Empty()) Drawn(0, 0, Target.Width - 1, Target.Height - 1);
 }
 
 }  // namespace gloamtide

@@ -61,6 +61,8 @@ public:
 
     // Shows a picture whole, device pixel for device pixel: as much of it as the surface holds, from the top left.
     void SetPicture(const Bitmap& Image);
+    // The same, but where the sizes agree the image gets the surface's old pixels in exchange: nothing is copied.
+    void TakePicture(Bitmap& Image);
 
 private:
     struct PixelPoint;
@@ -68,7 +70,7 @@ private:
     std::optional<PixelPoint> PixelAt(double X, double Y) const;
     int LastPixel(double Pixel) const;
     int PenOf(int Pixels) const;
-    void Dot(PixelPoint Place, int Pen, Color DotColor);
+    void Dot(Bitmap& Target, PixelPoint Place, int Pen, Color DotColor);
     void FillPixels(int FromX, int FromY, int ToX, int ToY, Color Filling);
     void Stroke(PixelPoint From, PixelPoint To, Color LineColor);
     void Ellipse(double X, double Y, double Radius, double Aspect, Color LineColor, bool Filled,

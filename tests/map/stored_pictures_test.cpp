@@ -39,13 +39,15 @@ TEST_F(CachedPictures, ComeBackWithTheMapType) {
     Desktop.ScreenWidth = 640;
     Start();
     const auto Cached = [] {
-        PicturesForm& F = FormPictures;
         std::vector<std::vector<Color>> Pictures;
-        for (const PictureSurface* Each :
-             {&F.PictureDay, &F.PictureNight, &F.PictureCitiesDay, &F.PictureCitiesNight, &F.PictureTZDay,
-              &F.PictureTZNight, &F.PictureTZCitiesDay, &F.PictureTZCitiesNight, &FormGTMain.PictureGT}) {
-            Pictures.push_back(Each->Picture.Pixels);
+        for (const int Shown : {3, 2, 1, 0}) {
+            state.ShowCities = (Shown & 1) != 0 ? True : False;
+            state.ShowTimezones = (Shown & 2) != 0 ? True : False;
+            const MapPictures Pair = ShownMapPictures();
+            Pictures.insert(Pictures.end(), {Pair.Day.Picture.Pixels, Pair.Night.Picture.Pixels});
         }
+        EXPECT_TRUE(FormPictures.PictureTZDay.Picture.Empty()) << "what is not shown goes";
+        Pictures.push_back(FormGTMain.PictureGT.Picture.Pixels);
         return Pictures;
     };
     const auto Choose = [&](Menu& Item) {
