@@ -149,7 +149,7 @@ class Copy:
 
 def table(verdicts):
     """A row for each folder: of each set what was planted and what became of it."""
-    sets = list(dict.fromkeys(fault.set for fault in verdicts))
+    sets = sorted({fault.set for fault in verdicts})
     counts = collections.Counter((fault.set, place, verdict) for fault, verdict in verdicts.items()
                                  for place in (folder_of(fault.path), "all"))
     print("| folder |" + "".join(f" {name}: planted | {' | '.join(VERDICTS)} |" for name in sets))
