@@ -109,8 +109,10 @@ void UpdateInformationPanel() {
         Told(state.EquationOfTime, "#0.00",
              state.EquationOfTime < 0.0F ? "  Minutes (Sun Behind Clock)" : "  Minutes (Sun Ahead of Clock)");
     F.LabelTimeOffsetShow[i].Caption = Told(state.OffsetDays, "#######0.0##", "  Days");
-    F.LabelSeasonShow[i].Caption = state.SeasonNorth + " in N. Hemi -- " + state.SeasonSouth + " in S. Hemi";
-    F.LabelCountdownShow[i].Caption = Countdown(state.SeasonDaysLeft);
+    const std::string TimeLeft = Countdown(state.SeasonDaysLeft);
+    F.LabelSeasonShow[i].Caption =
+        TimeLeft.empty() ? "" : state.SeasonNorth + " in N. Hemi -- " + state.SeasonSouth + " in S. Hemi";
+    F.LabelCountdownShow[i].Caption = TimeLeft;
 }
 
 void LoadMonthNames() {

@@ -120,19 +120,20 @@ TEST_F(FileCommands, OpenAsksAgainUntilAFileIsOneOfItsOwn) {
     EXPECT_EQ(std::tuple(state.ConfigFilePath, state.LocationName), std::tuple("kathmandu.gtf", "Kathmandu"));
 }
 
-TEST_F(FileCommands, CancelInOpenChangesNothingButWhatABadFileHeld) {
+// What a file that is none has given already is put back, too: a save afterwards holds nothing of it.
+TEST_F(FileCommands, CancelInOpenChangesNothing) {
     const Bitmap Map = F.PictureGT.Picture;
-    const auto Before = std::tuple(state.ConfigFilePath, F.Caption.Get(), state.LocationName, Checked());
     F.Timer1.Enabled = false;
     for (const bool AfterBadFile : {false, true}) {
         if (AfterBadFile) Desktop.FileNames = {"name.gtf"};
         F.MenuFileSubOpen.Click();
         EXPECT_EQ(Desktop.Messages.size(), AfterBadFile ? 1U : 0U);
-        EXPECT_EQ(state.OffsetDays, AfterBadFile ? 10.0 : 0.0);
-        EXPECT_EQ(std::tuple(state.ConfigFilePath, F.Caption.Get(), state.LocationName, Checked()), Before);
+        EXPECT_EQ(std::tuple(Checked(), state.ConfigSaved, F.Timer1.Enabled.Get()),
+                  std::tuple(" &Natural", False, false));
         EXPECT_EQ(F.PictureGT.Picture.Pixels, Map.Pixels);
-        EXPECT_FALSE(F.Timer1.Enabled);
     }
+    F.MenuFileSubSave.Click();
+    EXPECT_EQ(Stored("mine.gtf"), Stored("cleveland.gtf"));
 }
 
 TEST_F(FileCommands, SaveTakesTheNameInForceAndNamesWhatFails) {
@@ -166,6 +167,33 @@ TEST_F(FileCommands, SaveAsAsksUntilTheNameWillDo) {
     EXPECT_EQ(Names(), std::tuple("new.gtf", "Gloamtide (new.gtf)", False)) << "Cancel leaves all as it was";
 }
 
+// What Startup.dat holds then, or nothing where no line of it can.
+TEST_F(FileCommands, ASavedPathComesBackAtTheNextStartOrTheUserIsTold) {
+    const std::pair<std::string, std::string> Paths[] = {
+        {"a.gtf", "\"a.gtf\""}, {"a,b.gtf", "\"a,b.gtf\""}, {"a\"b.gtf", "a\"b.gtf"}, {"a\"", "a\""},
+        {"\"a\".gtf", ""},      {"a\",b.gtf", ""},          {"a\nb.gtf", ""},         {"a\rb.gtf", ""}};
+    for (const auto& [Path, Line] : Paths) {
+        Desktop.Messages.clear();
+        state.ConfigFilePath = Path;
+        F.MenuFileSubSave.Click();
+        EXPECT_EQ(std::pair(fs::exists(Path), state.ConfigSaved), std::pair(true, True));
+        if (Line.empty()) {
+            ExpectMessages(
+                {"Saved, But Not For The Next Start: The configuration is saved, but the next start will not "
+                 "find it: " +
+                 Path + "\n" + NoStartupPath});
+            EXPECT_THROW(WriteStartupFile(), FileFailure);
+            continue;
+        }
+        ExpectMessages({});
+        WriteStartupFile();
+        EXPECT_EQ(Stored("Startup.dat"), Line + "\r\n");
+        state.ConfigFilePath = "";
+        ReadStartupFile();
+        EXPECT_EQ(state.ConfigFilePath, Path);
+    }
+}
+
 // Both Quit commands and the window's own button lead here.
 TEST_F(FileCommands, ExitWithNothingToSaveWritesTheStartupFileWhereTheProgramStarted) {
     state.ConfigSaved = True;
@@ -193,7 +221,7 @@ TEST_F(FileCommands, ASecondStartComesUpWhereTheFirstEnded) {
     Desktop.FileNames = {"folder", Path, "unasked"};
     F.MenuFileSubQuit.Click();
     ExpectMessages({"Save Configuration? (Yes/No): Present Configuration not saved, do you wish to save it?",
-                    "Save File Error: Error - Invalid Filename."});
+                    "Save File Error: Error - Invalid Filename.\nfolder: not a regular file"});
     ExpectDialogs(Desktop.SaveDialogs, {"", ""});
     EXPECT_EQ(Stored(Path), Stored("kathmandu.gtf"));
     EXPECT_TRUE(Desktop.Ended);
@@ -218,7 +246,8 @@ TEST_F(FileCommands, AStartupFileThatCannotBeWrittenLeadsToTheSaveDialog) {
     state.AppDirectory = (Folder / "removed").string();
     Desktop.FileNames = {(Folder / "new.gtf").string(), std::nullopt};
     ExitProgram();
-    ExpectMessages({2, "Save File Error: Error - Invalid Filename."});
+    ExpectMessages({2, "Save File Error: Error - Invalid Filename.\n" + (Folder / "removed/Startup.dat").string() +
+                           ": No such file or directory"});
     ExpectDialogs(Desktop.SaveDialogs, {"", ""});
     EXPECT_TRUE(fs::exists("new.gtf") && Desktop.Ended);
 }

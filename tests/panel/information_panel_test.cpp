@@ -1,5 +1,6 @@
 #include "panel/information_panel.h"
 
+#include <limits>
 #include <sstream>
 
 #include "astro/calendar.h"
@@ -8,8 +9,10 @@
 #include "map/geometry.h"
 #include "places/zones.h"
 #include "state/numbers.h"
+#include "storage/configuration.h"
 #include "tests/golden.h"
 #include "tests/program_test.h"
+#include "tests/vectors.h"
 
 namespace gloamtide {
 namespace {
@@ -72,6 +75,54 @@ TEST_F(Panel, InstantsAndPlacesOfEightThousandYears) {
     }
     EXPECT_GE(Instants, 40);
     ExpectGoldenText("almanac.txt", Text);
+}
+
+// Which captions a file made by hand leaves blank, for each field that holds a number which is none or out of any
+// range.
+TEST_F(Panel, SaysNothingWhereThereIsNothingToTell) {
+    constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
+    constexpr double Infinity = std::numeric_limits<double>::infinity();
+    const std::string Sun = " LocSunrise LocSunset";
+    const std::string Local = " GTLocalDate GTLocalTime DaylightStd";
+    const std::string Season = " Season Countdown";
+    const std::string Dates = " GreenwichDate GreenwichTime GTJD TimeOffset";
+    const std::string Bodies = " SolDec EqtnTime AgeOfMoon PhaseOfMoon EastOfIDLDate WestOfIDLDate";
+    const std::tuple<const char*, double, std::string> Files[] = {
+        {"AnimYears", 100.0, ""},
+        {"OffsetDays", NotANumber, Local + Dates + Season + Sun + Bodies},
+        {"OffsetDays", 1e30,
+         " GTLocalDate GreenwichDate GTJD TimeOffset" + Season + " EqtnTime EastOfIDLDate WestOfIDLDate"},
+        {"ZoneHours", -Infinity, Local + " Timezone" + Season + Sun},
+        {"ZoneHours", 24.5, " Timezone LocSunrise"},
+        {"LocationLat", Infinity, " LocLat" + Sun},
+        {"LocationLat", -1000.0, " LocLat"},
+        {"LocationLong", NotANumber, " LocLong" + Sun},
+        {"LocationLong", 1e9, " LocLong" + Sun},
+        {"AnimYears", Infinity, " AnimInfo"},
+        {"AnimDays", NotANumber, " AnimInfo"},
+        {"AnimHours", -10000.0, " AnimInfo"},
+    };
+    MainForm& F = FormGTMain;
+    std::vector<Control*> Told = F.PictureGTData[0].Children;
+    Told.insert(Told.end(), {&F.LabelEastOfIDLDate, &F.LabelWestOfIDLDate, &F.LabelAnimInfo});
+    for (const auto& [Field, Number, Expected] : Files) {
+        SetDefaultConfiguration();
+        VectorValues{{{{Field, Number}}}, {}}.PutIntoState();
+        state.ConfigFilePath = "by-hand.gtf";
+        SaveConfiguration();
+        for (Control* Each : Told) {
+            if (Each->Name.ends_with("Show(0)")) dynamic_cast<Label&>(*Each).Caption = "";
+        }
+        Desktop.FileNames = {"by-hand.gtf"};
+        F.MenuFileSubOpen.Click();
+        std::string Blank;
+        for (const Control* Each : Told) {
+            const bool Says =
+                dynamic_cast<const Label&>(*Each).Caption.Get().find_first_not_of(' ') != std::string::npos;
+            if (!Says) Blank.append(" ").append(Each->Name, 5, Each->Name.find("Show(") - 5);
+        }
+        EXPECT_EQ(Blank, Expected) << Field << ' ' << Number;
+    }
 }
 
 // A mark at each end, since blanks at the end belong to a name.
