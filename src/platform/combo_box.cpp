@@ -48,8 +48,8 @@ void ComboBox::Pick(int Position) {
 }
 
 void ComboBox::Type(const std::string& NewText) {
+    Text = NewText;  // first: a view must not show the picked entry again in between
     ListIndex = -1;
-    Text = NewText;
 }
 
 void ComboBox::PropertyAssigned(const void* Which, bool Differs) {
