@@ -93,7 +93,7 @@ TEST_F(FileCommands, OpenShowsAllThatTheFileHolds) {
     EXPECT_EQ(std::tuple(state.ConfigFilePath, F.Caption.Get(), state.ConfigSaved),
               std::tuple("kathmandu.gtf", "Gloamtide (kathmandu.gtf)", False));
     EXPECT_EQ(std::tuple(state.ZoneText, FormConfigure.ComboSelTZ.ListIndex.Get()), std::tuple("GMT + 5:45", 22));
-    EXPECT_EQ(Checked(), " &Sun &Cities S&undial &Political");
+    EXPECT_EQ(Checked(), " &Sun &Cities S&undial Al&manac &Political");
     EXPECT_EQ(F.LabelAnimInfo.Caption, "2y, -3d, " + FormAnimation.TextStepHours.Text.Get() + "h   Backward");
     EXPECT_EQ(FormAnimation.TextStepYears.Text.Get() + FormAnimation.TextStepDays.Text.Get(), "2-3");
     EXPECT_TRUE(FormAnimation.OptionAnimOptionsFwdBack[1].Value && !FormAnimation.OptionAnimOptionsFwdBack[0].Value);
@@ -106,7 +106,7 @@ TEST_F(FileCommands, OpenShowsAllThatTheFileHolds) {
     Desktop.System = {2026, 6, 1, 1, 12, 0, 0, 0};
     Open("cleveland.gtf");
     EXPECT_EQ(std::tuple(Checked(), F.LabelAnimInfo.Caption.Get(), state.OffsetDays, state.ConfigSaved),
-              std::tuple(" &Natural", "0y, 0d, 1h   Forward", 0.0, True));
+              std::tuple(" Al&manac &Natural", "0y, 0d, 1h   Forward", 0.0, True));
     EXPECT_EQ(F.PictureGT.Picture.Pixels, Natural);
     Open("political.gtf");
     EXPECT_NE(F.PictureGT.Picture.Pixels, Natural);
@@ -129,7 +129,7 @@ TEST_F(FileCommands, CancelInOpenChangesNothing) {
         F.MenuFileSubOpen.Click();
         EXPECT_EQ(Desktop.Messages.size(), AfterBadFile ? 1U : 0U);
         EXPECT_EQ(std::tuple(Checked(), state.ConfigSaved, F.Timer1.Enabled.Get()),
-                  std::tuple(" &Natural", False, false));
+                  std::tuple(" Al&manac &Natural", False, false));
         EXPECT_EQ(F.PictureGT.Picture.Pixels, Map.Pixels);
     }
     F.MenuFileSubSave.Click();
