@@ -59,7 +59,7 @@ Bitmap ReadPicture(const std::string& Path) {
 // A control with a caption, in its own size or in that of its text.
 template <class Captioned>
 Bitmap PaintedText(const Captioned& Record, bool Opaque, bool Centred) {
-    const GlyphMask Mask = host->RenderText(Record.CurrentFont(), Record.Caption);
+    const GlyphMask Mask = host->RenderText(Record.CurrentFont(), Record.Caption, 1.0);
     const auto SizeOf = [](double Own, int OfText) { return Own > 0.0 ? static_cast<int>(std::lround(Own)) : OfText; };
     Bitmap Box(SizeOf(Record.Width.Pixels(), Mask.Width), SizeOf(Record.Height.Pixels(), Mask.Height),
                Opaque ? Record.BackColor.Get() : Clear);

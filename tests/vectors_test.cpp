@@ -233,9 +233,9 @@ TEST_F(Vectors, TheHourRulerPrintsItsHoursInTurn) {
     SetScreen(640);
     struct Recorder : HeadlessHost {
         std::string Texts;
-        GlyphMask RenderText(const Font& Which, const std::string& Text) override {
+        GlyphMask RenderText(const Font& Which, const std::string& Text, double Density) override {
             Texts += Text;
-            return HeadlessHost::RenderText(Which, Text);
+            return HeadlessHost::RenderText(Which, Text, Density);
         }
     } Printer;
     DrawZoneHourRuler();

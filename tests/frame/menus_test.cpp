@@ -50,9 +50,14 @@ TEST_F(Menus, ShowHideItemsMirrorTheirFlags) {
 }
 
 TEST_F(Menus, AMapTypeIsPreparedAtOnceAndBuiltATenthOfASecondLater) {
-    const auto Pictures = [] {
+    F.MenuShowHideSubCities.Click();
+    F.MenuShowHideSubTimezones.Click();
+    const auto Pictures = [this] {
         std::vector<std::vector<Color>> Result;
-        for (const PictureSurface* Each : FormPictures.WorkPictures()) Result.push_back(Each->Picture.Pixels);
+        for (const PictureSurface* Each : {&FormPictures.PictureDay, &FormPictures.PictureTZCitiesDay,
+                                           &FormPictures.PictureTZCitiesNight, &F.PictureGT}) {
+            Result.push_back(Each->Picture.Pixels);
+        }
         return Result;
     };
     const auto Natural = Pictures();
