@@ -1,6 +1,8 @@
 #include "tests/density.h"
 
+#include <algorithm>
 #include <cmath>
+#include <tuple>
 
 #include "platform/headless/headless_host.h"
 #include "surface/picture_surface.h"
@@ -66,6 +68,12 @@ void DrawEverything(PictureSurface& Surface) {
     Surface.Print("Now or never");
 }
 
+std::ptrdiff_t WhiteIn(const PictureSurface& Surface, double Y, int Left, int Right) {
+    const int Side = static_cast<int>(Surface.Density);
+    const Color* Row = Surface.Picture.Row(static_cast<int>(Y * Side));
+    return std::count(Row + std::ptrdiff_t{Left} * Side, Row + std::ptrdiff_t{Right} * Side, White);
+}
+
 TEST_F(Density, AllLooksTheSameOnlyFiner) {
     PictureSurface Coarse{Window, "Coarse"};
     Prepare(Coarse, 1.0, 120, 100);
@@ -74,6 +82,10 @@ TEST_F(Density, AllLooksTheSameOnlyFiner) {
     for (const int At : {2, 3}) {
         Prepare(Fine, At, 120, 100);
         DrawEverything(Fine);
+        // What runs through row 40, dots and blanks, and through the middle of a circle: an outline, twice.
+        for (const auto& [Y, Left, Right] : {std::tuple(40.2, 0, 119), {60.8, 25, 55}}) {
+            EXPECT_EQ(WhiteIn(Fine, Y, Left, Right), At * WhiteIn(Coarse, Y, Left, Right)) << Y << " at " << At;
+        }
         EXPECT_EQ(PixelsApart(Coarse.Picture, Fine.Picture, At, 0), 0) << At;
     }
     EXPECT_EQ(Fine.TextWidth("00"), Coarse.TextWidth("00"));
