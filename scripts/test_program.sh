@@ -101,7 +101,7 @@ Saved() {
     Record f8 1 tokyo.gtf
 }
 Await '[[ $(Saved) != "$Begin" ]]' "no step"
-xdotool mousemove --window "$(xdotool getactivewindow)" 1209 612 click 1
+xdotool mousemove --window "$(xdotool getactivewindow)" 1209 $((612 + (HEIGHT - 22 - 878) / 2)) click 1
 Stopped=$(Saved)
 for _ in 1 2 3 4; do Expect "$(Saved)" "$Stopped"; done  # together longer than a step
 Press alt+q
@@ -127,6 +127,30 @@ Expect "$(Record d2 9 sunny.gtf)" -1
 Expect "$(Record f8 1 sunny.gtf)" "$Stopped"
 Start "$Program"
 AwaitWindow "Gloamtide ($Home/sunny.gtf)"
+
+# The window can be made full screen, is as it was after that and after a dialog, and comes up where it was left.
+Geometry() { xdotool getactivewindow getwindowgeometry --shell | grep -E '^(X|Y|WIDTH|HEIGHT)=' | tr '\n' ' '; }
+Await '[[ $(Geometry) == *WIDTH=1280* ]]' 'no window'
+xdotool mousemove 640 8 click --repeat 2 --delay 60 1  # its title: restored
+Await '[[ $(Geometry) != *WIDTH=1280* ]]' 'not restored'
+xdotool getactivewindow windowsize 900 640 windowmove 200 150
+Await '[[ $(Geometry) == *WIDTH=900\ HEIGHT=640* ]]' 'not resized'
+Left=$(Geometry)
+Press F11
+Await '[[ $(Geometry) == "X=0 Y=0 WIDTH=1280 HEIGHT=1024 " ]]' 'not full screen'
+Press Escape
+Await '[[ $(Geometry) == "$Left" ]]' 'not as it was before'
+Press alt+c
+AwaitWindow 'Gloamtide - Configure'
+Expect "$(Geometry)" "$Left"
+Press Escape
+AwaitWindow "Gloamtide ($Home/sunny.gtf)"
+Expect "$(Geometry)" "$Left"
+Press alt+q
+ExpectEnd
+Start "$Program"
+AwaitWindow "Gloamtide ($Home/sunny.gtf)"
+Await '[[ $(Geometry) == "$Left" ]]' 'not where it was left'
 Press alt+q
 ExpectEnd
 echo "set, kept, found again"

@@ -38,7 +38,7 @@ StartDisplay() {
     Jobs+=($!)
     Await "[[ -s '$Scratch/display' ]]" "no display"
     DISPLAY=:$(cat "$Scratch/display")
-    export DISPLAY QT_QPA_PLATFORM=xcb
+    export DISPLAY QT_QPA_PLATFORM=xcb XDG_CONFIG_HOME=$Scratch/config  # nothing of the user's own
     openbox --sm-disable >/dev/null 2>&1 &
     Jobs+=($!)
     # Windows that come before the manager stands would never get the keyboard.

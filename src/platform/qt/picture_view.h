@@ -11,6 +11,8 @@ namespace gloamtide {
 // Paints the record's bitmap straight from its memory and tells the record where the pointer moves. A bitmap of another
 // density than the screen has is stretched over the same place.
 class PictureView : public QWidget {
+    Q_OBJECT  // found among other widgets by its kind
+
 public:
     PictureView(PictureBox& TheRecord, QWidget& Parent, const BoardScale& TheScale);
 
