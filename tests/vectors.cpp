@@ -132,7 +132,8 @@ void VectorValues::ExpectInState() const {
     for (const auto& [Name, Value] : Numbers) {
         const auto ExpectOne = [&Name = Name, Expected = Value](const auto* Where) {
             using Type = std::remove_cv_t<std::remove_pointer_t<decltype(Where)>>;
-            const double Step = std::is_same_v<Type, float> ? 4e-7 : 1e-11;
+            constexpr bool IsSingle = std::is_same_v<Type, float>;
+            const double Step = IsSingle ? 4e-7 : 1e-11;
             if constexpr (std::is_arithmetic_v<Type>) ExpectClose(Name, *Where, Expected, Step);
         };
         if (Fields.contains(Name)) std::visit(ExpectOne, Fields[Name]);

@@ -86,7 +86,7 @@ QPixmap MapAlone(FormWindow& Window, const QSize& Size) {
         Window.FixScale(std::min(1.0 * Size.width() / state.MapWidth, 1.0 * Size.height() / state.MapHeight));
     }
     auto* Map = Window.findChild<PictureView*>("PictureGT");
-    const QPixmap Shown = Map->grab(Map->InnerArea());
+    QPixmap Shown = Map->grab(Map->InnerArea());
     if (Size.isEmpty()) return Shown;
     QPixmap Result(Size);
     Result.fill(Qt::black);
@@ -168,7 +168,6 @@ void MakePicture(const StillOptions& Asked) {
 int main(int Count, char** Arguments) {
     FillStandardStreams();
     SetUpQt();
-    int OnlyName = 1;  // the other arguments are not for Qt
     try {
         QCommandLineParser Parser;
         AddStillOptions(Parser);
@@ -176,6 +175,7 @@ int main(int Count, char** Arguments) {
         if (AnswersQuestion(Parser, StillHelp)) return 0;
         const StillOptions Asked = ReadStillOptions(Parser);
         qputenv("QT_SCALE_FACTOR", QByteArray::number(Asked.Scale));
+        int OnlyName = 1;  // the other arguments are not for Qt
         const QApplication Application(OnlyName, Arguments);
         MakePicture(Asked);
         return 0;

@@ -23,7 +23,7 @@ namespace {
 
 // The value of an option; an empty text where it does not stand.
 QString ValueOf(const QCommandLineParser& Parser, const QString& Name) {
-    const QString Value = Parser.value(Name);
+    QString Value = Parser.value(Name);
     if (Parser.isSet(Name) && Value.isEmpty()) throw UsageError("--" + Name + " needs a value");
     return Value;
 }

@@ -12,7 +12,7 @@ namespace gloamtide {
 namespace {
 
 enum class Shade : std::uint8_t { Dark, Lit };
-enum class Form : std::uint8_t { None, Ellipse, Arc };
+enum class Shape : std::uint8_t { None, Ellipse, Arc };
 
 constexpr Color LitColor = RGB(255, 240, 190);
 constexpr Color DarkColor = RGB(128, 128, 128);
@@ -20,7 +20,7 @@ constexpr Color DarkColor = RGB(128, 128, 128);
 // What is laid over the base disc. An ellipse: its centre Toward * (R - Less) to the left of the disc's, as high as the
 // disc, Aspect times as high as wide. An arc: of the radius R - Less, from Start to End.
 struct Overlay {
-    Form Kind = Form::None;
+    Shape Kind = Shape::None;
     Shade Filling = Shade::Dark;
     int Toward = 0;  // 1 to the left, -1 to the right
     float Less = 0.0F;
@@ -30,10 +30,10 @@ struct Overlay {
 };
 
 constexpr Overlay Ellipse(Shade Filling, int Toward, float Less, float Aspect) {
-    return {Form::Ellipse, Filling, Toward, Less, Aspect, 0.0F, 0.0F};
+    return {Shape::Ellipse, Filling, Toward, Less, Aspect, 0.0F, 0.0F};
 }
 constexpr Overlay LitArc(float Less, float Start, float End) {
-    return {Form::Arc, Shade::Lit, 0, Less, 1.0F, Start, End};
+    return {Shape::Arc, Shade::Lit, 0, Less, 1.0F, Start, End};
 }
 
 struct Recipe {
@@ -98,12 +98,12 @@ void DrawFilled(float X, float R, Shade Filling, float Aspect) {
 
 void DrawOverlay(const Overlay& Each, float X, float R) {
     switch (Each.Kind) {
-        case Form::None:
+        case Shape::None:
             break;
-        case Form::Ellipse:
+        case Shape::Ellipse:
             DrawFilled(X + static_cast<float>(Each.Toward) * (R - Each.Less), R, Each.Filling, Each.Aspect);
             break;
-        case Form::Arc:
+        case Shape::Arc:
             FormPictures.PictureNightSplit.Arc(X, state.MoonDeclination, R - Each.Less, LitColor, Each.Start, Each.End);
             break;
     }

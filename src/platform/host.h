@@ -69,7 +69,7 @@ public:
     // The program's own settings, kept between runs; an empty text where there is none of the name.
     virtual std::string ReadSetting(const std::string& Name) = 0;
     virtual void WriteSetting(const std::string& Name, const std::string& Value) = 0;
-    virtual void EndProcess() = 0;            // asks the event loop to end
+    virtual void EndProcess() = 0;  // asks the event loop to end
 };
 
 // The host in force, set before the program starts.

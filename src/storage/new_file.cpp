@@ -77,9 +77,9 @@ bool OpenFile::Flush() const {
 
 NewFile::NewFile(const fs::path& TheTarget) : NewFile(TheTarget, FolderOf(TheTarget) / RandomName()) {}
 
-NewFile::NewFile(const fs::path& TheTarget, fs::path TheName)
+NewFile::NewFile(fs::path TheTarget, fs::path TheName)
     : OpenFile(open(TheName.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666)),
-      Target(TheTarget),
+      Target(std::move(TheTarget)),
       Name(std::move(TheName)) {
     if (IsOpen()) flock(Descriptor, LOCK_EX | LOCK_NB);  // nobody else knows the name yet
 }

@@ -41,7 +41,7 @@ public:
     bool PutInPlace();
 
 private:
-    NewFile(const std::filesystem::path& TheTarget, std::filesystem::path TheName);
+    NewFile(std::filesystem::path TheTarget, std::filesystem::path TheName);
 
     std::filesystem::path Target;
     std::filesystem::path Name;

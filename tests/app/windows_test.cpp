@@ -6,8 +6,8 @@
 #include <QtTest>
 #include <QtWidgets>
 
-#include "dialogs/about_and_splash.h"
 #include "app/screens.h"
+#include "dialogs/about_and_splash.h"
 #include "frame/startup.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/picture_view.h"

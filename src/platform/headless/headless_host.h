@@ -21,7 +21,7 @@ public:
     std::deque<MessageAnswer> Answers;                 // to message boxes, in turn; without one: OK or No
     std::deque<std::optional<std::string>> FileNames;  // given in file dialogs, in turn; without one: Cancel
 
-    std::map<std::string, std::string> Settings;       // and what the program wrote
+    std::map<std::string, std::string> Settings;  // and what the program wrote
 
     // --- recorded
     struct ShownMessage {

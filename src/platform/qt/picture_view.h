@@ -9,9 +9,9 @@
 namespace gloamtide {
 
 // Paints the record's bitmap straight from its memory and tells the record where the pointer moves. A bitmap of another
-// density than the screen has is stretched over the same place.
+// density than the screen has is stretched over the same place. Its meta-object lets it be found among other widgets.
 class PictureView : public QWidget {
-    Q_OBJECT  // found among other widgets by its kind
+    Q_OBJECT
 
 public:
     PictureView(PictureBox& TheRecord, QWidget& Parent, const BoardScale& TheScale);

@@ -68,8 +68,10 @@ TEST_F(Dialogs, FilesAreChosenAsTheirDialogPromises) {
             EXPECT_EQ(Box.windowTitle(), Case.ToSave ? "Save As" : "Open");
             EXPECT_EQ(Box.nameFilters(), (QStringList{"Gloamtide Files (*.gtf)", "All Files (*)"}));
             EXPECT_EQ(Box.selectedNameFilter(), "Gloamtide Files (*.gtf)");
-            if (Case.TakesAll) Box.selectNameFilter("All Files (*)");
-            if (Case.TakesAll) emit Box.filterSelected("All Files (*)");  // as when the user picks it
+            if (Case.TakesAll) {
+                Box.selectNameFilter("All Files (*)");
+                emit Box.filterSelected("All Files (*)");  // as when the user picks it
+            }
             const bool Asks = Case.Answer != QMessageBox::NoButton;
             if (Asks) WhenOpen<QMessageBox>([&](QMessageBox& Told) { Told.button(Case.Answer)->click(); });
             static_cast<QDialog&>(Box).accept();
