@@ -9,6 +9,8 @@ namespace gloamtide {
 
 // Paints the record's bitmap straight from its memory and tells the record where the pointer moves.
 class PictureView : public QWidget {
+    Q_OBJECT  // found among other widgets by its kind
+
 public:
     PictureView(PictureBox& TheRecord, QWidget& Parent);
 
