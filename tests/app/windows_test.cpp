@@ -11,6 +11,8 @@
 #include "platform/qt/fonts.h"
 #include "platform/qt/picture_view.h"
 #include "platform/qt/qt_host.h"
+#include "state/numbers.h"
+#include "storage/configuration.h"
 #include "tests/fresh_program.h"
 
 namespace gloamtide {
@@ -25,6 +27,7 @@ public:
     double ScreenHeightTwips() override { return Screen.height() * TwipsPerPixel; }
     DateTime SystemTime() override { return {2026, 3, 5, 20, 12, 0, 30, 0}; }
     DateTime LocalTime() override { return SystemTime(); }
+    std::optional<std::string> ShowOpenDialog(const FileDialog&) override { return state.ConfigFilePath; }
     void FillScreen(QWidget& Window) override {
         Window.resize(Screen);
         Window.show();
@@ -157,6 +160,33 @@ TEST_P(OwnWindows, AreHeardAndSeenInFull) {
     for (const Form* Each : LoadedForms) {
         SCOPED_TRACE(Each->Name);
         if (Each->Visible) ExpectRoom(*Each);
+    }
+}
+
+TEST_P(OwnWindows, HaveRoomForAnyNumberOfAFileMadeByHand) {
+    if (!QFontDatabase::families().contains("DejaVu Sans Condensed")) GTEST_SKIP() << "needs DejaVu Sans Condensed";
+    if (Desktop.WindowOf(FormGTMain)->width() > 1280) GTEST_SKIP() << "the four layouts are enough";
+    const QTemporaryDir Folder;
+    auto& S = state;
+    const std::function<void(double)> Fields[] = {
+        [&](double Number) { S.OffsetDays = Number; },
+        [&](double Number) { S.LocationLat = Number; },
+        [&](double Number) { S.LocationLong = Single(Number); },
+        [&](double Number) { S.ZoneHours = Single(Number); },
+        [&](double Number) { S.DaylightHours = ToInt16(Number); },
+        [&](double Number) { S.AnimYears = S.AnimDays = S.AnimHours = Single(Number); }};
+    for (const double Number : {-1e300, 9.9e7, -9999.99}) {
+        for (const auto& Field : Fields) {
+            SCOPED_TRACE(std::to_string(&Field - Fields) + " is " + std::to_string(Number));
+            SetDefaultConfiguration();
+            state.ConfigFilePath = Folder.filePath("by-hand.gtf").toStdString();
+            state.ShowSundial = True;
+            Field(Number);
+            SaveConfiguration();
+            FormGTMain.MenuFileSubOpen.Click();
+            QCoreApplication::processEvents();
+            ExpectRoom(FormGTMain);
+        }
     }
 }
 

@@ -32,6 +32,9 @@ TEST_F(AnimationSettings, CoversTheMainWindow) {
     const double Shown = state.CurrentJD;
     Desktop.Advance(2000);
     EXPECT_GT(state.CurrentJD, Shown) << "the clock runs on behind it";
+    EXPECT_EQ(Desktop.InFront, nullptr);
+    FormGTMain.MenuAnimationSubOptions.Click();
+    EXPECT_EQ(Desktop.InFront, &F) << "chosen again it comes to the front";
 }
 
 TEST_F(AnimationSettings, OKTakesTheTextsAndKeepsThemInTheFile) {

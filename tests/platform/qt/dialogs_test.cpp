@@ -29,6 +29,22 @@ TEST_F(Dialogs, AMessageHasTitleTextIconAndAnswer) {
     }
 }
 
+TEST_F(Dialogs, AMessageOverTheSplashStandsRightBelowItsPicture) {
+    Form Splash("Splash", 9000.0, 9000.0, true);
+    PictureBox Image(Splash, "Image");
+    Image.Move(300.0, 300.0);
+    Image.Size(6000.0, 3000.0);
+    Splash.Show();
+    const QWidget& Picture = *Desktop.WindowOf(Splash)->findChild<QWidget*>("Image");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Desktop.WindowOf(Splash)));
+    WhenOpen<QMessageBox>([&](QMessageBox& Box) {
+        EXPECT_NEAR(Box.y(), Picture.mapToGlobal(QPoint(0, Picture.height())).y() + 8, 8);
+        Box.button(QMessageBox::Ok)->click();
+    });
+    Desktop.ShowMessage({"File Not Found", "Text"});
+    Splash.Unload();
+}
+
 TEST_F(Dialogs, FilesAreChosenAsTheirDialogPromises) {
     const struct {
         bool ToSave;

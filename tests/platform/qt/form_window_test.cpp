@@ -18,12 +18,15 @@ TEST_F(Windows, FillTheScreenUnderTheirTitle) {
     Window().showMinimized();
     Demo.Show();
     EXPECT_FALSE(Window().isMinimized());
-    Demo.Hide();
-    EXPECT_FALSE(Window().isVisible());
     Form Splash("Splash", 3000.0, 1500.0, true);
     Splash.Show();
     EXPECT_TRUE(Desktop.WindowOf(Splash)->windowFlags().testFlag(Qt::FramelessWindowHint));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(Desktop.WindowOf(Splash)));
+    Demo.Show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&Window())) << "shown again it comes to the front";
     Splash.Unload();
+    Demo.Hide();
+    EXPECT_FALSE(Window().isVisible());
 }
 
 TEST_F(Windows, EnterEscapeAndTheCloseButtonPressOKAndCancel) {

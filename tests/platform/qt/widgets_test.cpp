@@ -66,6 +66,31 @@ TEST_F(Widgets, StandWhereTheirRecordsSayWithinTheBorderAndCutNoLetters) {
     EXPECT_NEAR(PlaceOf(Demo.Heading).center().y(), 120 + 3, 1) << "it reaches over above and below";
 }
 
+// Without a border: the map's dates and the hours of the dial.
+TEST_F(Widgets, ALabelAtTheEdgeOfAPictureStaysAndKeepsItsFirstLetter) {
+    Demo.Picture.BorderWidth = 0;
+    auto& Shown = Find<QLabel>(Demo.OnPicture);
+    const auto Ink = [](QLabel& Text) {
+        QImage Letters(Text.size(), QImage::Format_RGB32);
+        Letters.fill(Qt::magenta);
+        Text.render(&Letters, {}, {}, {});
+        const QRegion Found(
+            QBitmap::fromImage(Letters.createMaskFromColor(QColor(Qt::magenta).rgb(), Qt::MaskInColor)));
+        return Found.translated(-Found.boundingRect().topLeft());
+    };
+    Demo.OnPicture.Caption = "10";
+    const int Last = 102 - Shown.fontMetrics().tightBoundingRect("10").right();
+    Demo.OnPicture.Left.SetPixels(Last);
+    EXPECT_EQ(PlaceOf(Demo.OnPicture).left(), Last);
+    Demo.OnPicture.Caption = "Jul";
+    Demo.OnPicture.Left.SetPixels(0.0);
+    QLabel Free("Jul");
+    Free.setFont(Shown.font());
+    Free.setMargin(9);
+    Free.adjustSize();
+    EXPECT_TRUE(Ink(Shown) == Ink(Free));
+}
+
 TEST_F(Widgets, ASizeOfZeroBecomesTheNaturalOneAndFollowsTheText) {
     auto& Shown = Find<QLabel>(Demo.Heading);
     const auto Expect = [&](const char* Text, int Width, int Height) {
