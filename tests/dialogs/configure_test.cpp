@@ -105,9 +105,12 @@ TEST_F(Configure, OpensWithTheNearestEntriesForWhatItsListsLack) {
     EXPECT_EQ(Place(), (Lists{1, 79, 59, -1, 179, 30}));
     DaysOf(2, "2026");
     F.CmdConfigureCancel.Click();
+    state.LocationLat = state.LocationLong = 0.0F;
+    RecomputeAlmanac();
     state.LocalDay = 31.0F;
     Open();
     EXPECT_EQ(F.ComboSelDay.Text, " 31");
+    EXPECT_EQ(Place(), (Lists{1, 0, 0, 1, 0, 0})) << "the equator and the first meridian are north and east";
 }
 
 TEST_F(Configure, TheZoneFollowsThePlaceUntilTheUserKnowsBetter) {
