@@ -12,16 +12,13 @@ const std::string FallbackPath = "Config File not found -- default configuration
 class Startup : public ProgramTest {
 protected:
     void ExpectDefaultsAfterOneMessage() {
-        ASSERT_EQ(Desktop.Messages.size(), 1U);
-        EXPECT_EQ(Desktop.Messages[0].Box.Text,
-                  "Gloamtide Startup file (Startup.dat) or the configuration file it designates not found or corrupted "
-                  "- default settings will be used.  Startup.dat must reside in the same directory as the Gloamtide "
-                  "program.  You may proceed, changing the configuration as you prefer, and save it.  On subsequent "
-                  "starts, Gloamtide will show the last-saved configuration.  For more, refer to \"Startup File\" in "
-                  "the Help index.");
-        EXPECT_EQ(
-            std::tuple(Desktop.Messages[0].Box.Title, Desktop.Messages[0].Box.Icon, Desktop.Messages[0].BeepsBefore),
-            std::tuple("File Not Found", MessageIcon::None, 2));
+        ExpectMessages(
+            {"File Not Found: Gloamtide Startup file (Startup.dat) or the configuration file it designates not found "
+             "or "
+             "corrupted - default settings will be used.  Startup.dat must reside in the same directory as the "
+             "Gloamtide program.  You may proceed, changing the configuration as you prefer, and save it.  On "
+             "subsequent starts, Gloamtide will show the last-saved configuration.  For more, refer to \"Startup "
+             "File\" in the Help index."});
         EXPECT_EQ(FormGTMain.Caption, "Gloamtide (" + FallbackPath + ")");
         EXPECT_EQ(std::tuple(state.ConfigFilePath, state.ConfigSaved, state.CurrentJD, state.LocationName),
                   std::tuple(FallbackPath, False, state.SystemJD, "Cleveland, Ohio"));
@@ -36,7 +33,6 @@ TEST_F(Startup, WithoutAConfigurationTheDefaultsStandAfterTwoBeeps) {
     std::filesystem::create_directory("folder.gtf");
     const std::optional<std::string> None;
     const std::pair<std::optional<std::string>, std::optional<std::string>> Starts[] = {
-        {None, None},
         {"", None},
         {"\"\"\r\n", None},
         {"\r\n", None},
@@ -48,17 +44,16 @@ TEST_F(Startup, WithoutAConfigurationTheDefaultsStandAfterTwoBeeps) {
     };
     Desktop.ScreenWidth = 640;
     StartProgram();
+    ExpectDefaultsAfterOneMessage();
     for (const auto& [StartupText, Configuration] : Starts) {
         SCOPED_TRACE(StartupText.value_or("none"));
         if (StartupText) WriteFile("Startup.dat", *StartupText);
         if (Configuration) WriteFile("my.gtf", *Configuration);
-        Desktop.Messages.clear();
         FormGTMain_Form_Load();
         ExpectDefaultsAfterOneMessage();
     }
     std::filesystem::remove("Startup.dat");
     std::filesystem::create_directory("Startup.dat");
-    Desktop.Messages.clear();
     FormGTMain_Form_Load();
     ExpectDefaultsAfterOneMessage();
 }
