@@ -7,6 +7,8 @@
 #include <fstream>
 #include <ostream>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "frame/startup.h"
 #include "platform/headless/headless_host.h"
@@ -49,6 +51,17 @@ protected:
 
     void WriteFile(const std::string& Name, const std::string& Bytes) const {
         std::ofstream(Folder / Name, std::ios::binary) << Bytes;
+    }
+
+    // The messages since the last call, each after two beeps: its title, its mark, if any, and its text.
+    void ExpectMessages(const std::vector<std::string>& Expected) {
+        std::vector<std::string> Shown;
+        for (const auto& [Box, BeepsBefore] : std::exchange(Desktop.Messages, {})) {
+            const bool Asks = Box.Icon == MessageIcon::Question;
+            EXPECT_EQ(std::pair(Box.Buttons == MessageButtons::YesNo, BeepsBefore), std::pair(Asks, 2));
+            Shown.push_back(Box.Title + (Asks ? " (?): " : Box.Icon == MessageIcon::None ? ": " : " (!): ") + Box.Text);
+        }
+        EXPECT_EQ(Shown, Expected);
     }
 
     HeadlessHost Desktop;

@@ -274,6 +274,14 @@ TEST_F(Vectors, DateBand) {
         DrawDateBand();
         EXPECT_EQ(Band.Picture.Pixels, Expected.Pixels);
     });
+    SetScreen(640);
+    for (const float Broken : {std::nanf(""), -1.0F, 60.0F, 29.5F, 1e30F}) {  // times that draw no bars
+        state.GreenwichMinute = state.GreenwichMonth = Broken;
+        DrawZoneHourRuler();
+        DrawDateBand();
+        const auto& Pixels = FormGTMain.PictureGTContainer.Picture.Pixels;
+        EXPECT_EQ(std::count(Pixels.begin(), Pixels.end(), RGB(225, 225, 127)), 0) << Broken;
+    }
 }
 
 // The captions of a window's labels by their names.
@@ -369,19 +377,6 @@ TEST_F(StartedVectors, LocationControls) {
         EXPECT_TRUE(Latitude.Value && Longitude.Value);
         for (const auto& [Name, List] : Lists) EXPECT_EQ(List->ListIndex, R.In.Whole(Name)) << Name;
     });
-}
-
-// A city that is picked shows its own place; on the equator and the first meridian that is north and east.
-TEST_F(StartedVectors, CitiesAndTheirHemispheres) {
-    for (int Position = 0; Position < F.ComboCityName.ListCount(); ++Position) {
-        const auto Row = static_cast<std::size_t>(F.ComboCityName.ItemData(Position));
-        F.ComboCityName.Pick(Position);
-        EXPECT_EQ(F.OptionSetLat[1].Value, state.CityLatitude[Row] < 0.0F) << state.CityName[Row];
-        EXPECT_EQ(F.OptionSetLong[1].Value, state.CityLongitude[Row] < 0.0F) << state.CityName[Row];
-    }
-    state.LocationLat = state.LocationLong = 0.0F;
-    FormGTMain.MenuConfigure.Click();
-    EXPECT_TRUE(F.OptionSetLat[0].Value && F.OptionSetLong[0].Value);
 }
 
 TEST_F(StartedVectors, YearText) {

@@ -18,11 +18,13 @@ QString Stored(const char* Name) {
 class Still : public testing::Test {
 protected:
     // Runs it with arguments parted by blanks.
-    void Run(const QString& Arguments) {
+    void Run(const QString& Arguments) { Run(GLOAMTIDE_STILL, Arguments.split(' ', Qt::SkipEmptyParts)); }
+
+    void Run(const QString& Program, const QStringList& Arguments) {
         QProcess Process;
         Process.setProcessEnvironment(Environment);
         Process.setWorkingDirectory(Folder.path());
-        Process.start(GLOAMTIDE_STILL, Arguments.split(' ', Qt::SkipEmptyParts));
+        Process.start(Program, Arguments);
         Process.waitForFinished(60000);
         ExitCode = Process.exitCode();
         Output = QString::fromUtf8(Process.readAllStandardOutput());
@@ -74,6 +76,18 @@ TEST_F(Still, TellsInOneLineWhatIsWrongAndLeavesNoFile) {
         EXPECT_EQ(QString::number(ExitCode), Parts.value(1));
         EXPECT_TRUE(Error.startsWith("gloamtide-still: ") && Error.contains(Parts.value(2))) << Error.toStdString();
         EXPECT_EQ(std::tuple(Error.count('\n'), Output, Files()), std::tuple(1, QString(), QStringList{"broken.gtf"}));
+    }
+}
+
+TEST_F(Still, GetsOnWithTheShell) {
+    const QString Begin =
+        "cd $(mktemp -d ./XXXXXX); still() { \"$0\" --at 2026-03-20T12:00:00Z --screen-width 640 \"$@\"; }; ";
+    for (const QString& Line : Stored("still_shell.txt").split('\n', Qt::SkipEmptyParts)) {
+        if (Line.startsWith('#')) continue;
+        const QStringList Parts = Line.split(" => ");
+        Run("/bin/sh", {"-c", Begin + Parts.value(0), GLOAMTIDE_STILL});
+        const QString Ended = QString("%1 ").arg(ExitCode) + Output + Error;
+        EXPECT_EQ(Ended.trimmed().toStdString(), Parts.value(1).toStdString()) << Line.toStdString();
     }
 }
 

@@ -50,9 +50,9 @@ TEST_F(AnimationSettings, OKTakesTheTextsAndKeepsThemInTheFile) {
 TEST_F(AnimationSettings, WhatCannotBeKeptIsToldAndStaysInForce) {
     state.ConfigFilePath = "nowhere/my.gtf";
     OK("1", "2", "3");
-    ASSERT_EQ(Desktop.Messages.size(), 1U);
-    EXPECT_NE(Desktop.Messages[0].Box.Text.find("nowhere/my.gtf: No such file"), std::string::npos);
-    EXPECT_EQ(Desktop.Messages[0].BeepsBefore, 2);
+    ExpectMessages(
+        {"Save Error (!): Can't save the animation settings. They stay in force until the program ends. "
+         "nowhere/my.gtf: No such file or directory"});
     EXPECT_EQ(state.AnimDays, 2.0F);
     EXPECT_FALSE(F.Visible);
 }
@@ -72,18 +72,14 @@ TEST_F(AnimationSettings, TheFirstTextOutOfRangeIsRefusedAndNothingTaken) {
           Refused{"100", "-365.5", "99", F.TextStepDays, DayText}, Refused{"5", "abc", "0", F.TextStepDays, DayText},
           Refused{"-100", "365", "24.1", F.TextStepHours, HourText},
           Refused{"5", "5", "nan", F.TextStepHours, HourText}}) {
-        Desktop.Messages.clear();
         OK(Each.Years, Each.Days, Each.Hours);
-        ASSERT_EQ(Desktop.Messages.size(), 1U) << Each.Years;
-        EXPECT_EQ(Desktop.Messages[0].Box.Title, "Input Out Of Range");
-        EXPECT_EQ(Desktop.Messages[0].Box.Text, Each.Text);
-        EXPECT_EQ(Desktop.Messages[0].BeepsBefore, 2);
+        ExpectMessages({std::string("Input Out Of Range: ") + Each.Text});
         EXPECT_TRUE(F.Visible && Desktop.Focus == &Each.Box);
     }
     EXPECT_TRUE(state.AnimYears == 0.0F && state.AnimDays == 0.0F);
     EXPECT_FALSE(std::filesystem::exists(Folder / "my.gtf"));
     OK("-100", "+365", "-24");
-    EXPECT_EQ(Desktop.Messages.size(), 1U) << "the limits themselves pass";
+    ExpectMessages({});  // the limits themselves pass
 }
 
 TEST_F(AnimationSettings, CancelKeepsTheDirectionThatTheNextStartTakes) {

@@ -49,18 +49,6 @@ protected:
         F.MenuFileSubOpen.Click();
     }
 
-    // Titles and texts of the messages, each after two beeps.
-    void ExpectMessages(const std::vector<std::string>& Expected) const {
-        std::vector<std::string> Shown;
-        for (const auto& [Box, BeepsBefore] : Desktop.Messages) {
-            const bool Question = Box.Icon == MessageIcon::Question && Box.Buttons == MessageButtons::YesNo;
-            const bool Warning = Box.Icon == MessageIcon::Exclamation && Box.Buttons == MessageButtons::OK;
-            EXPECT_TRUE((Question || Warning) && BeepsBefore == 2);
-            Shown.push_back(Box.Title + (Question ? " (Yes/No): " : ": ") + Box.Text);
-        }
-        EXPECT_EQ(Shown, Expected);
-    }
-
     static void ExpectDialogs(const std::vector<FileDialog>& Shown, const std::vector<std::string>& Offered) {
         std::vector<std::string> Names;
         for (const FileDialog& Each : Shown) {
@@ -115,7 +103,7 @@ TEST_F(FileCommands, OpenShowsAllThatTheFileHolds) {
 TEST_F(FileCommands, OpenAsksAgainUntilAFileIsOneOfItsOwn) {
     Desktop.FileNames = {"folder", "missing.gtf", "short.gtf", "name.gtf", "/dev/null", "kathmandu.gtf", "unasked"};
     F.MenuFileSubOpen.Click();
-    ExpectMessages({5, "File Invalid: Designated file improperly formatted."});
+    ExpectMessages({5, "File Invalid (!): Designated file improperly formatted."});
     ExpectDialogs(Desktop.OpenDialogs, {"", "", "", "", "", ""});
     EXPECT_EQ(std::tuple(state.ConfigFilePath, state.LocationName), std::tuple("kathmandu.gtf", "Kathmandu"));
 }
@@ -127,7 +115,7 @@ TEST_F(FileCommands, CancelInOpenChangesNothing) {
     for (const bool AfterBadFile : {false, true}) {
         if (AfterBadFile) Desktop.FileNames = {"name.gtf"};
         F.MenuFileSubOpen.Click();
-        EXPECT_EQ(Desktop.Messages.size(), AfterBadFile ? 1U : 0U);
+        EXPECT_EQ(std::exchange(Desktop.Messages, {}).size(), AfterBadFile ? 1U : 0U);
         EXPECT_EQ(std::tuple(Checked(), state.ConfigSaved, F.Timer1.Enabled.Get()),
                   std::tuple(" Al&manac &Natural", False, false));
         EXPECT_EQ(F.PictureGT.Picture.Pixels, Map.Pixels);
@@ -143,20 +131,20 @@ TEST_F(FileCommands, SaveTakesTheNameInForceAndNamesWhatFails) {
     state.ConfigSaved = False;
     state.ConfigFilePath = "missing/mine.gtf";
     F.MenuFileSubSave.Click();
-    ExpectMessages({"Save Error: Can't save the configuration. missing/mine.gtf: No such file or directory"});
+    ExpectMessages({"Save Error (!): Can't save the configuration. missing/mine.gtf: No such file or directory"});
     EXPECT_EQ(state.ConfigSaved, False);
     SetDefaultConfiguration();  // the sentence that there is no file is a name like any other
     F.MenuFileSubSave.Click();
     EXPECT_TRUE(fs::exists("Config File not found -- default configuration used"));
     EXPECT_TRUE(Desktop.SaveDialogs.empty());
-    EXPECT_EQ(Desktop.Messages.size(), 1U);
+    ExpectMessages({});
 }
 
 TEST_F(FileCommands, SaveAsAsksUntilTheNameWillDo) {
     const std::string Path = state.ConfigFilePath;
     Desktop.FileNames = {"folder", "new.gtf", "unasked"};
     F.MenuFileSubSaveAs.Click();
-    ExpectMessages({"Save-As Error: Error - can't save file."});
+    ExpectMessages({"Save-As Error (!): Error - can't save file."});
     ExpectDialogs(Desktop.SaveDialogs, {Path, "folder"});
     EXPECT_EQ(Stored("new.gtf"), Stored("cleveland.gtf"));
     const auto Names = [this] { return std::tuple(state.ConfigFilePath, F.Caption.Get(), state.ConfigSaved); };
@@ -173,13 +161,12 @@ TEST_F(FileCommands, ASavedPathComesBackAtTheNextStartOrTheUserIsTold) {
         {"a.gtf", "\"a.gtf\""}, {"a,b.gtf", "\"a,b.gtf\""}, {"a\"b.gtf", "a\"b.gtf"}, {"a\"", "a\""},
         {"\"a\".gtf", ""},      {"a\",b.gtf", ""},          {"a\nb.gtf", ""},         {"a\rb.gtf", ""}};
     for (const auto& [Path, Line] : Paths) {
-        Desktop.Messages.clear();
         state.ConfigFilePath = Path;
         F.MenuFileSubSave.Click();
         EXPECT_EQ(std::pair(fs::exists(Path), state.ConfigSaved), std::pair(true, True));
         if (Line.empty()) {
             ExpectMessages(
-                {"Saved, But Not For The Next Start: The configuration is saved, but the next start will not "
+                {"Saved, But Not For The Next Start (!): The configuration is saved, but the next start will not "
                  "find it: " +
                  Path + "\n" + NoStartupPath});
             EXPECT_THROW(WriteStartupFile(), FileFailure);
@@ -208,7 +195,7 @@ TEST_F(FileCommands, ExitWithNothingToSaveWritesTheStartupFileWhereTheProgramSta
 
 TEST_F(FileCommands, ExitAsksOnceAndNoKeepsTheOldName) {
     F.Close();
-    ExpectMessages({"Save Configuration? (Yes/No): Present Configuration not saved, do you wish to save it?"});
+    ExpectMessages({"Save Configuration? (?): Present Configuration not saved, do you wish to save it?"});
     EXPECT_TRUE(Desktop.Ended && LoadedForms.empty() && Desktop.SaveDialogs.empty() && !fs::exists("mine.gtf"));
     EXPECT_EQ(Stored("Startup.dat"), '"' + state.ConfigFilePath + "\"\r\n");
 }
@@ -220,15 +207,15 @@ TEST_F(FileCommands, ASecondStartComesUpWhereTheFirstEnded) {
     Desktop.Answers = {MessageAnswer::Yes};
     Desktop.FileNames = {"folder", Path, "unasked"};
     F.MenuFileSubQuit.Click();
-    ExpectMessages({"Save Configuration? (Yes/No): Present Configuration not saved, do you wish to save it?",
-                    "Save File Error: Error - Invalid Filename.\nfolder: not a regular file"});
+    ExpectMessages({"Save Configuration? (?): Present Configuration not saved, do you wish to save it?",
+                    "Save File Error (!): Error - Invalid Filename.\nfolder: not a regular file"});
     ExpectDialogs(Desktop.SaveDialogs, {"", ""});
     EXPECT_EQ(Stored(Path), Stored("kathmandu.gtf"));
     EXPECT_TRUE(Desktop.Ended);
     const double Before = state.CurrentJD;
     state = SharedState{};
     StartProgram();
-    EXPECT_EQ(Desktop.Messages.size(), 2U);
+    ExpectMessages({});
     EXPECT_EQ(std::tuple(state.LocationName, state.CurrentJD, F.Caption.Get()),
               std::tuple("Kathmandu", Before, "Gloamtide (" + Path + ")"));
 }
@@ -246,7 +233,7 @@ TEST_F(FileCommands, AStartupFileThatCannotBeWrittenLeadsToTheSaveDialog) {
     state.AppDirectory = (Folder / "removed").string();
     Desktop.FileNames = {(Folder / "new.gtf").string(), std::nullopt};
     ExitProgram();
-    ExpectMessages({2, "Save File Error: Error - Invalid Filename.\n" + (Folder / "removed/Startup.dat").string() +
+    ExpectMessages({2, "Save File Error (!): Error - Invalid Filename.\n" + (Folder / "removed/Startup.dat").string() +
                            ": No such file or directory"});
     ExpectDialogs(Desktop.SaveDialogs, {"", ""});
     EXPECT_TRUE(fs::exists("new.gtf") && Desktop.Ended);

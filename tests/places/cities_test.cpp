@@ -38,7 +38,10 @@ TEST_F(Cities, EachLandsOnItsOwnZone) {
     FormGTMain.MenuConfigure.Click();
     for (int Position = 0; Position < 350; ++Position) {
         F.ComboCityName.Pick(Position);
+        const auto Row = static_cast<std::size_t>(F.ComboCityName.ItemData(Position));
         const auto& [Code, Line] = Zones.at(F.ComboCityName.ItemData(Position));
+        EXPECT_EQ(F.OptionSetLat[1].Value, state.CityLatitude[Row] < 0.0F) << Line;
+        EXPECT_EQ(F.OptionSetLong[1].Value, state.CityLongitude[Row] < 0.0F) << Line;
         EXPECT_EQ(state.MaskCode, Code) << Line;
         EXPECT_NE(Line.find(F.ComboCityName.Text), std::string::npos) << Line;
     }

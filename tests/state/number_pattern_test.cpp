@@ -28,11 +28,5 @@ TEST(NumberPattern, EdgesOfRoundingAndOfNumbers) {
     EXPECT_EQ(FormatNumber(std::numeric_limits<double>::max(), "0.00000").size(), 309U + 6U);
 }
 
-TEST(NumberPattern, PlainNumbers) {
-    for (const auto& [Value, Text] : {std::pair(0.5F, "0.5"), std::pair(-4000.0F, "-4000"), std::pair(0.1F, "0.1")}) {
-        EXPECT_EQ(PlainNumber(Value), Text);
-    }
-}
-
 }  // namespace
 }  // namespace gloamtide

@@ -160,11 +160,10 @@ TEST_F(Configuration, ASaveChangesItsRecordsAlone) {
     }
 }
 
-TEST_F(Configuration, LinksStayLinksAndPermissionsStay) {
+TEST_F(Configuration, LinksStayLinks) {
     fs::create_directories("links/inner");
     fs::create_directory("real");
     WriteFile("real/my.gtf", "old");
-    fs::permissions("real/my.gtf", fs::perms{0640});
     fs::create_symlink(Folder / "real/my.gtf", "links/absolute");
     fs::create_symlink("../../real/my.gtf", "links/inner/relative");
     fs::create_symlink("inner/relative", "links/chain");
@@ -176,7 +175,6 @@ TEST_F(Configuration, LinksStayLinksAndPermissionsStay) {
         SaveConfiguration();
         EXPECT_TRUE(fs::is_symlink(Link));
         EXPECT_EQ(ReadFile(Link, 2000), Default);
-        EXPECT_EQ(fs::status("real/my.gtf").permissions(), fs::perms{0640});
     }
     EXPECT_TRUE(fs::is_regular_file("real/new.gtf"));
     fs::create_symlink("links/loop", "loop");

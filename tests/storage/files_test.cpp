@@ -105,8 +105,7 @@ const char* const Broken = "my.gtf: Input/output error";
 
 const Save Saves[] = {
     {.Name = "as usual"},
-    {.Name = "bits that run it as its owner", .Mode = 06755},
-    {.Name = "by root", .Saver = Who::Root},
+    {.Name = "by root, with bits that run it as its owner", .Mode = 06755, .Saver = Who::Root},
     {.Name = "a group that the user is not in", .Replaced = false, .Mode = 0660, .Group = Who::Stranger},
     {.Name = "a stranger's", .Replaced = false, .Mode = 0666, .Owner = Who::Stranger},
     {.Name = "a stranger's, among strangers",
@@ -130,7 +129,7 @@ const Save Saves[] = {
 TEST_F(Files, ASaveKeepsOwnersPermissionsAndNamesAndLeavesNothingBehind) {
     fs::permissions(Folder, fs::perms{0755});
     for (const Save& S : Saves) {
-        if (S.TakesRoot() && geteuid() != 0) continue;
+        if (S.TakesRoot() && geteuid() != 0) continue;  // none but root can set it up
         SCOPED_TRACE(S.Name);
         S.SetUp();
         struct stat Before {};
