@@ -54,8 +54,8 @@ TEST_F(Menus, AMapTypeIsPreparedAtOnceAndBuiltATenthOfASecondLater) {
     F.MenuShowHideSubTimezones.Click();
     const auto Pictures = [this] {
         std::vector<std::vector<Color>> Result;
-        for (const PictureSurface* Each : {&FormPictures.PictureDay, &FormPictures.PictureTZCitiesDay,
-                                           &FormPictures.PictureTZCitiesNight, &F.PictureGT}) {
+        for (const PictureSurface* Each :
+             {&FormPictures.PictureTZCitiesDay, &FormPictures.PictureTZCitiesNight, &F.PictureGT}) {
             Result.push_back(Each->Picture.Pixels);
         }
         return Result;
