@@ -24,6 +24,7 @@ void SetDensity(double Density) {
 void FourCopies(benchmark::State& Runs, double Density) {
     StartOnce();
     SetDensity(Density);
+    RedrawMap();
     const PicturesForm& F = FormPictures;
     const std::array<const Bitmap*, 4> From = {&F.PictureDay.Picture, &F.PictureNight.Picture,
                                                &F.PictureDaySplit.Picture, &F.PictureNightSplit.Picture};

@@ -4,16 +4,18 @@
 
 namespace gloamtide {
 
-void PaintSea(Bitmap& Map, const Bitmap& Sea, Color SeaColor) {
-    std::transform(Map.Pixels.begin(), Map.Pixels.end(), Sea.Pixels.begin(), Map.Pixels.begin(),
-                   [SeaColor](Color Pixel, Color IsSea) { return IsSea != 0 ? SeaColor : Pixel; });
+void PaintSea(Bitmap& Day, const Bitmap& Sea) {
+    std::transform(Day.Pixels.begin(), Day.Pixels.end(), Sea.Pixels.begin(), Day.Pixels.begin(),
+                   [](Color Land, Color IsSea) { return IsSea != 0 ? DaySea : Land; });
 }
 
-void Darken(Bitmap& Map, int Levels) {
-    for (Color& Pixel : Map.Pixels) {
-        const auto Darker = [Levels](int Level) { return std::max(0, Level - Levels); };
-        Pixel = RGB(Darker(RedOf(Pixel)), Darker(GreenOf(Pixel)), Darker(BlueOf(Pixel)));
+Bitmap NightOf(const Bitmap& Day, int Levels, Color NightSea) {
+    const auto Darker = [Levels](int Level) { return std::max(0, Level - Levels); };
+    Bitmap Night = Day;
+    for (Color& Pixel : Night.Pixels) {
+        Pixel = Pixel == DaySea ? NightSea : RGB(Darker(RedOf(Pixel)), Darker(GreenOf(Pixel)), Darker(BlueOf(Pixel)));
     }
+    return Night;
 }
 
 }  // namespace gloamtide

@@ -5,10 +5,12 @@
 
 namespace gloamtide {
 
-// Gives the sea of a map one flat colour. Sea: as large as the map, black where land is.
-void PaintSea(Bitmap& Map, const Bitmap& Sea, Color SeaColor);
+constexpr Color DaySea = RGB(0, 119, 225);  // of both maps; no land has it
 
-// Takes Levels from each channel of each pixel, not below 0.
-void Darken(Bitmap& Map, int Levels);
+// Gives the sea of a map of the day its one flat colour. Sea: as large as the map, black where land is.
+void PaintSea(Bitmap& Day, const Bitmap& Sea);
+
+// The same map by night: the sea in another colour, the land darker by Levels in each channel, not below 0.
+Bitmap NightOf(const Bitmap& Day, int Levels, Color NightSea);
 
 }  // namespace gloamtide

@@ -16,8 +16,6 @@
 namespace gloamtide {
 namespace {
 
-constexpr Color DaySea = RGB(0, 119, 225);
-
 // Where the pictures of a map type come from, and what makes its night.
 struct MapSource {
     PictureSurface& DayOriginal;
@@ -40,28 +38,56 @@ MapSource SourceOf(int MapType) {
             RGB(0, 0, 3)};
 }
 
-// Lends the image to the original's surface while it is stretched.
-void Stretch(PictureSurface& To, PictureSurface& Original, Bitmap&& Image) {
+// Puts an image on a surface that takes its size.
+void Put(PictureSurface& Original, Bitmap Image) {
     Original.Size(Image.Width, Image.Height);
-    std::swap(Original.Picture, Image);
-    StretchBlt(To, 0, 0, state.MapWidth, state.MapHeight, Original, 0, 0, Original.Picture.Width,
-               Original.Picture.Height);
-    std::swap(Original.Picture, Image);
+    Original.Picture = std::move(Image);
 }
 
-// False where the stored pictures do, or the host does not decode finer ones.
-bool MakeFromFine(const MapSource& Source) {
-    PicturesForm& F = FormPictures;
-    if (F.PictureDay.Density <= 1.0 || F.PictureDay.Density * state.MapWidth <= StoredWidth) return false;
-    Bitmap Map = host->DecodePicture(Source.FineDay);
+void Stretch(PictureSurface& To, PictureSurface& Original) {
+    StretchBlt(To, 0, 0, state.MapWidth, state.MapHeight, Original, 0, 0, Original.Picture.Width,
+               Original.Picture.Height);
+}
+
+// Puts the finer picture on the original's surface, where it stays while the type does: a window whose size changes
+// makes the map anew time and again. False where the stored pictures do, or the host does not decode finer ones.
+bool HasFineDay(const MapSource& Source) {
+    const double Density = FormPictures.PictureDay.Density;
+    if (Density <= 1.0 || Density * state.MapWidth <= StoredWidth) return false;
+    if (!Source.DayOriginal.Picture.Empty()) return true;
+    Bitmap Day = host->DecodePicture(Source.FineDay);
     const Bitmap Sea = host->DecodePicture(SeaFinePng());
-    if (Map.Empty() || Map.Width != Sea.Width || Map.Height != Sea.Height) return false;
-    PaintSea(Map, Sea, DaySea);
-    Stretch(F.PictureDay, Source.DayOriginal, std::move(Map));
-    Darken(Map, Source.Darkening);
-    PaintSea(Map, Sea, Source.NightSea);
-    Stretch(F.PictureNight, Source.NightOriginal, std::move(Map));
+    if (Day.Empty() || Day.Width != Sea.Width || Day.Height != Sea.Height) return false;
+    PaintSea(Day, Sea);
+    Put(Source.DayOriginal, std::move(Day));
     return true;
+}
+
+void MakePlain(const MapPictures& Pictures, const MapSource& Source) {
+    if (HasFineDay(Source)) {
+        Put(Source.NightOriginal, NightOf(Source.DayOriginal.Picture, Source.Darkening, Source.NightSea));
+        Stretch(Pictures.Night, Source.NightOriginal);
+        Stretch(Pictures.Day, Source.DayOriginal);
+    } else {
+        Put(Source.NightOriginal, DecodeBmp(Source.Night));
+        Put(Source.DayOriginal, DecodeBmp(Source.Day));
+        Stretch(Pictures.Night, Source.NightOriginal);
+        Stretch(Pictures.Day, Source.DayOriginal);
+        Source.DayOriginal.Picture = Bitmap();
+    }
+    Source.NightOriginal.Picture = Bitmap();
+}
+
+MapPictures ChooseMapPictures() {
+    PicturesForm& F = FormPictures;
+    if (state.ShowCities == True && state.ShowTimezones == True) return {F.PictureTZCitiesDay, F.PictureTZCitiesNight};
+    if (state.ShowCities == True) return {F.PictureCitiesDay, F.PictureCitiesNight};
+    if (state.ShowTimezones == True) return {F.PictureTZDay, F.PictureTZNight};
+    return {F.PictureDay, F.PictureNight};
+}
+
+void DropMapPictures() {
+    for (PictureSurface* Each : FormPictures.WorkPictures()) Each->Picture = Bitmap();
 }
 
 }  // namespace
@@ -71,32 +97,19 @@ void FormPictures_Form_Load() { FormPictures.PictureTZmask.SetPicture(DecodeBmp(
 void ResetMapPictures() {
     if (state.MapType != 0 && state.MapType != 1) return;
     state.MapTypeShown = state.MapType;
-    PicturesForm& F = FormPictures;
-    for (PictureSurface* Each : F.WorkPictures()) Each->Picture = Bitmap();
-    const MapSource Source = SourceOf(state.MapType);
-    if (MakeFromFine(Source)) return;
-    Stretch(F.PictureNight, Source.NightOriginal, DecodeBmp(Source.Night));
-    Stretch(F.PictureDay, Source.DayOriginal, DecodeBmp(Source.Day));
+    DropMapPictures();
+    FormPictures.PictureDayOrig.Picture = FormPictures.PicturePolitDayOrig.Picture = Bitmap();
 }
 
 MapPictures ShownMapPictures() {
-    PicturesForm& F = FormPictures;
-    const MapPictures Plain = {F.PictureDay, F.PictureNight};
-    const MapPictures Cities = {F.PictureCitiesDay, F.PictureCitiesNight};
-    const MapPictures Zones = {F.PictureTZDay, F.PictureTZNight};
-    const MapPictures Both = {F.PictureTZCitiesDay, F.PictureTZCitiesNight};
-    const bool WithZones = state.ShowTimezones == True;
-    const MapPictures& Shown = state.ShowCities == True ? (WithZones ? Both : Cities) : (WithZones ? Zones : Plain);
-    for (const MapPictures& Each : {Cities, Zones, Both}) {
-        if (&Each.Day == &Shown.Day) continue;
-        Each.Day.Picture = Each.Night.Picture = Bitmap();
-    }
-    if (Shown.Day.Picture.Empty()) {
-        Shown.Day.SetPicture(Plain.Day.Picture);
-        Shown.Night.SetPicture(Plain.Night.Picture);
-        DrawCityMarks();
-        DrawTimeZoneLines();
-    }
+    const MapPictures Shown = ChooseMapPictures();
+    if (!Shown.Day.Picture.Empty()) return Shown;
+    DropMapPictures();
+    Shown.Day.Canvas();
+    Shown.Night.Canvas();
+    if (state.MapTypeShown >= 0) MakePlain(Shown, SourceOf(state.MapTypeShown));
+    DrawCityMarks();
+    DrawTimeZoneLines();
     return Shown;
 }
 
@@ -106,7 +119,7 @@ void FollowDensity() {
     const bool AllFollow = F.PictureGTContainer.Density == Density && F.PictureSundial.Density == Density;
     if (!AllFollow || F.PictureGT.Picture.Empty()) return;
     for (PictureSurface* Each : FormPictures.WorkPictures()) Each->Density = Density;
-    ResetMapPictures();
+    DropMapPictures();
     RedrawMap();
 }
 

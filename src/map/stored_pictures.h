@@ -1,4 +1,4 @@
-// The stored pictures and the cached maps made from them. Only those that the map shows, and the plain ones, exist.
+// The stored pictures and the cached maps made from them. Only those that the map shows exist.
 #pragma once
 
 #include "surface/picture_surface.h"
@@ -8,9 +8,9 @@ namespace gloamtide {
 // Puts the zone mask on its surface of FormPictures.
 void FormPictures_Form_Load();
 
-// Makes the plain map of the current type; all other cached pictures go, to be made when they are next shown.
+// Goes over to the current map type: the cached pictures of the old one go.
 //   Reads:  MapType (0 natural, 1 political; with any other it does nothing)
-//   Sets:   MapTypeShown; PictureDay, PictureNight
+//   Sets:   MapTypeShown
 void ResetMapPictures();
 
 struct MapPictures {
@@ -18,9 +18,8 @@ struct MapPictures {
     PictureSurface& Night;
 };
 
-// The cached pictures that are to be shown, made from the plain ones where they are not there yet. The others that show
-// cities or zones go.
-//   Reads:  ShowCities, ShowTimezones, the tables of cities
+// The cached pictures that are to be shown. Where they are not there yet they are made and all others go.
+//   Reads:  ShowCities, ShowTimezones, MapTypeShown, the table of cities
 MapPictures ShownMapPictures();
 
 // Draws the map anew at the density that FormGTMain.PictureGT was given. The dial and the container have densities of

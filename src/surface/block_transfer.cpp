@@ -152,28 +152,35 @@ struct StretchAxis {
     }
 };
 
-// A pixel between the two passes: red, green, blue times 256.
-struct WidePixel {
-    std::uint32_t Red = 0;
-    std::uint32_t Green = 0;
-    std::uint32_t Blue = 0;
-};
+// A row between the two passes: red, green, blue times 256 of each pixel in turn.
+using WideRow = std::vector<std::uint32_t>;
 
-std::vector<WidePixel> StretchedRow(const Color* Row, const StretchAxis& Columns) {
-    std::vector<WidePixel> Result;
-    Result.reserve(Columns.Mixes.size());
+WideRow StretchedRow(const Color* Row, const StretchAxis& Columns) {
+    WideRow Result;
+    Result.reserve(3 * Columns.Mixes.size());
     for (const Mix& Each : Columns.Mixes) {
-        WidePixel Sum;
+        std::uint64_t RedAndBlue = 0;  // in one product: their sums stay within 24 bits
+        std::uint32_t Green = 0;
         const Color* From = Row + Each.First;
         for (const std::uint32_t Weight : Each.Weights) {
             const Color Value = *From++;
-            Sum.Red += Weight * (Value & 255U);
-            Sum.Green += Weight * (Value >> 8U & 255U);
-            Sum.Blue += Weight * (Value >> 16U & 255U);
+            RedAndBlue += Weight * ((Value & 255U) | std::uint64_t{Value >> 16U & 255U} << 32U);
+            Green += Weight * (Value >> 8U & 255U);
         }
-        Result.push_back({Sum.Red >> 8U, Sum.Green >> 8U, Sum.Blue >> 8U});
+        Result.push_back(static_cast<std::uint32_t>(RedAndBlue) >> 8U);
+        Result.push_back(Green >> 8U);
+        Result.push_back(static_cast<std::uint32_t>(RedAndBlue >> 40U));
     }
     return Result;
+}
+
+// Sums holds red, green, blue of each pixel in turn, times 2 to the 24th.
+void StoreRow(const WideRow& Sums, const StretchAxis& Columns, Color* Target) {
+    for (std::size_t Column = 0; Column < Columns.Mixes.size(); ++Column) {
+        if (Columns.Mixes[Column].Weights.empty()) continue;
+        const std::uint32_t* Pixel = &Sums[3 * Column];
+        Target[Column] = Pixel[0] >> 24U | (Pixel[1] >> 24U) << 8U | (Pixel[2] >> 24U) << 16U;
+    }
 }
 
 }  // namespace
@@ -188,32 +195,21 @@ void StretchBlt(PictureSurface& Destination, int X, int Y, int Width, int Height
                               FromPixels.Width);
     const StretchAxis Rows(DeviceExtent(Destination, Y, Height), To.Height, DeviceExtent(Source, SourceY, SourceHeight),
                            FromPixels.Height);
-    std::vector<std::vector<WidePixel>> Stretched(static_cast<std::size_t>(FromPixels.Height));
+    std::vector<WideRow> Stretched(static_cast<std::size_t>(FromPixels.Height));
     std::size_t Passed = 0;  // the rows of the source that no further row needs
     for (std::size_t Row = 0; Row < Rows.Mixes.size(); ++Row) {
         const Mix& Vertical = Rows.Mixes[Row];
         if (Vertical.Weights.empty()) continue;
         while (Passed < static_cast<std::size_t>(Vertical.First)) Stretched[Passed++] = {};
+        WideRow Sums(3 * Columns.Mixes.size(), 1U << 23U);  // half a level, for rounding
         for (std::size_t Step = 0; Step < Vertical.Weights.size(); ++Step) {
             const std::size_t Needed = static_cast<std::size_t>(Vertical.First) + Step;
-            if (Stretched[Needed].empty())
-                Stretched[Needed] = StretchedRow(FromPixels.Row(static_cast<int>(Needed)), Columns);
+            WideRow& Wide = Stretched[Needed];
+            if (Wide.empty()) Wide = StretchedRow(FromPixels.Row(static_cast<int>(Needed)), Columns);
+            const std::uint32_t Weight = Vertical.Weights[Step];
+            for (std::size_t Place = 0; Place < Sums.size(); ++Place) Sums[Place] += Weight * Wide[Place];
         }
-        Color* Target = To.Row(Rows.FirstInside + static_cast<int>(Row)) + Columns.FirstInside;
-        for (std::size_t Column = 0; Column < Columns.Mixes.size(); ++Column) {
-            if (Columns.Mixes[Column].Weights.empty()) continue;
-            std::uint64_t Red = 1U << 23U;  // half a level, for rounding
-            std::uint64_t Green = Red;
-            std::uint64_t Blue = Red;
-            for (std::size_t Step = 0; Step < Vertical.Weights.size(); ++Step) {
-                const WidePixel& Pixel = Stretched[static_cast<std::size_t>(Vertical.First) + Step][Column];
-                const std::uint64_t Weight = Vertical.Weights[Step];
-                Red += Weight * Pixel.Red;
-                Green += Weight * Pixel.Green;
-                Blue += Weight * Pixel.Blue;
-            }
-            Target[Column] = static_cast<Color>(Red >> 24U | (Green >> 24U) << 8U | (Blue >> 24U) << 16U);
-        }
+        StoreRow(Sums, Columns, To.Row(Rows.FirstInside + static_cast<int>(Row)) + Columns.FirstInside);
     }
     if (!Columns.Mixes.empty() && !Rows.Mixes.empty()) {
         Destination.Drawn(Columns.FirstInside, Rows.FirstInside,

@@ -155,18 +155,24 @@ TEST(FinePictures, MakeSeaAndNightWhereTheMapIsLargerThanTheStoredOnes) {
             }
         }
     };
-    SetDensity(2.0);
-    EXPECT_EQ(Desktop.Decoded, 2);
-    ExpectColours(RGB(100, 20, 200), RGB(0, 119, 225), RGB(70, 0, 170), RGB(0, 10, 54));
-    state.MapType = 1;
-    ResetMapPictures();
-    ExpectColours(RGB(40, 250, 90), RGB(0, 119, 225), RGB(0, 200, 40), RGB(0, 0, 3));
+    for (const double Density : {2.0, 2.5}) {
+        SetDensity(Density);
+        ExpectColours(RGB(100, 20, 200), DaySea, RGB(70, 0, 170), RGB(0, 10, 54));
+    }
+    EXPECT_EQ(Desktop.Decoded, 2) << "once each";
+    const auto Reset = [](std::int16_t Type) {
+        state.MapType = Type;
+        ResetMapPictures();
+        RedrawMap();
+    };
+    Reset(1);
+    ExpectColours(RGB(40, 250, 90), DaySea, RGB(0, 200, 40), RGB(0, 0, 3));
 
-    const auto Flat = FormPictures.PictureDay.Picture.Pixels;
     Desktop.Sea = Bitmap(3, 3, 0);  // fits no map: the stored pictures serve
-    ResetMapPictures();
+    const auto Flat = FormPictures.PictureDay.Picture.Pixels;
+    Reset(1);
+    EXPECT_EQ(FormPictures.PictureDay.Picture.Pixels.size(), Flat.size());
     EXPECT_NE(FormPictures.PictureDay.Picture.Pixels, Flat);
-    EXPECT_EQ(FormPictures.PictureDay.Picture.Width, 1160);
 }
 
 }  // namespace
