@@ -26,7 +26,6 @@ appstreamcli validate --no-net "$Root"/usr/share/metainfo/*.xml
 
 # The menu entry, in a home of its own.
 export HOME=$Scratch/home PATH=$Root/usr/bin:$PATH
-unset XDG_CONFIG_HOME
 mkdir -p "$HOME"
 StartDisplay 1024x768
 Start "$Root$(sed -n 's/^Exec=//p' "$Desktop")"
@@ -37,7 +36,7 @@ Press alt+q
 AwaitWindow 'Save Configuration?'
 Press alt+n
 ExpectEnd
-[[ -f $HOME/.config/gloamtide/Startup.dat ]] || Fail "no start-up file in the user's folder"
+[[ -f $XDG_CONFIG_HOME/gloamtide/Startup.dat ]] || Fail "no start-up file in the user's folder"
 
 "${Dpkg[@]}" --remove gloamtide >/dev/null 2>&1
 Left=$(find "$Root" -path "$Root/var" -prune -o -type f -print)
