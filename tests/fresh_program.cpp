@@ -3,25 +3,11 @@
 #include <memory>
 
 namespace gloamtide {
-namespace {
-
-template <class T>
-void Renew(T& Form) {
-    std::destroy_at(&Form);
-    std::construct_at(&Form);
-}
-
-}  // namespace
 
 void RenewProgram() {
+    const auto Renew = [](auto&... Forms) { ((std::destroy_at(&Forms), std::construct_at(&Forms)), ...); };
     LoadedForms.clear();
-    Renew(FormPictures);
-    Renew(FormGTMain);
-    Renew(FormSplash);
-    Renew(FormAbout);
-    Renew(FormConfigure);
-    Renew(FormAnimation);
-    Renew(FormSundialOptions);
+    Renew(FormPictures, FormGTMain, FormSplash, FormAbout, FormConfigure, FormAnimation, FormSundialOptions);
     state = SharedState{};
 }
 

@@ -73,15 +73,10 @@ std::vector<Column> ReadHeader(std::istream& File) {
     return Result;
 }
 
-double ReadNumber(std::istream& Line) {
+void ReadNumber(std::istream& Line, const std::string& Name, VectorValues& Values) {
     std::string Number;
     Line >> Number;
-    return std::stod(Number);  // "nan" and "inf" too
-}
-
-void ReadGroup(std::istream& Line, const std::string& Names, VectorValues& Group) {
-    std::istringstream Members(Names);
-    for (std::string Name; Members >> Name;) Group.Numbers.emplace(Name, ReadNumber(Line));
+    Values.Numbers.emplace(Name, std::stod(Number));  // "nan" and "inf" too
 }
 
 void ReadRow(std::istream& Line, const std::vector<Column>& Header, VectorRow& Row) {
@@ -91,9 +86,12 @@ void ReadRow(std::istream& Line, const std::vector<Column>& Header, VectorRow& R
             Line >> std::quoted(Side.Texts.emplace(Name.substr(1, Name.size() - 2), "").first->second);
         } else if (Name[0] == '(') {
             Row.Groups.resize(static_cast<std::size_t>(Row.Out["n"]));
-            for (VectorValues& Each : Row.Groups) ReadGroup(Line, Name.substr(1, Name.find(')') - 1), Each);
+            for (VectorValues& Each : Row.Groups) {
+                std::istringstream Members(Name.substr(1, Name.find(')') - 1));
+                for (std::string Member; Members >> Member;) ReadNumber(Line, Member, Each);
+            }
         } else {
-            Side.Numbers.emplace(Name, ReadNumber(Line));
+            ReadNumber(Line, Name, Side);
         }
     }
     if (!Line || Line.peek() != EOF) throw std::runtime_error(Row.Where + " has not the columns of its table");
@@ -146,7 +144,7 @@ void VectorValues::ExpectInState() const {
 void VectorRow::Expect(const std::string& Name, double Result) const { ExpectClose(Name, Result, Out[Name]); }
 
 std::vector<VectorRow> ReadVectors(const std::string& Table) {
-    std::ifstream File(GLOAMTIDE_TEST_DATA "/data/vectors/" + Table + ".txt");
+    std::ifstream File(GLOAMTIDE_TEST_DATA "/data/" + Table + ".txt");
     const std::vector<Column> Header = ReadHeader(File);
     std::vector<VectorRow> Rows;
     int Number = 1;

@@ -1,4 +1,4 @@
-// Tables of reference values: tests/data/vectors, whose README tells their form.
+// Tables of values in tests/data/, in the form that the README of its vectors/ tells.
 #pragma once
 
 #include <map>
@@ -33,7 +33,7 @@ struct VectorRow {
     void Expect(const std::string& Name, double Result) const;
 };
 
-// All rows of a table; throws where it is no table.
+// All rows of a table, named by its path in tests/data/; throws where it is no table.
 std::vector<VectorRow> ReadVectors(const std::string& Table);
 
 }  // namespace gloamtide

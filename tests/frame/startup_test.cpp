@@ -21,7 +21,7 @@ protected:
         EXPECT_EQ(FormGTMain.Caption, "Gloamtide (" + FallbackPath + ")");
         EXPECT_EQ(std::tuple(state.ConfigFilePath, state.ConfigSaved, state.CurrentJD, state.LocationName),
                   std::tuple(FallbackPath, False, state.SystemJD, "Cleveland, Ohio"));
-        VectorValues Defaults = ReadVectors("configuration").front().In;  // but for the name
+        VectorValues Defaults = ReadVectors("vectors/configuration").front().In;  // but for the name
         Defaults.Texts.clear();
         Defaults.ExpectInState();
     }

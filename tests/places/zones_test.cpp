@@ -39,18 +39,18 @@ TEST_F(Zones, Table) {
 }
 
 TEST_F(Zones, HoursOfNoRowTellThemselvesBesideTheNearestRow) {
-    struct Odd {
-        float Hours;
-        int Row;
-        const char* Text;
-    };
-    for (const Odd& Each : {Odd{-5.3333F, 21, "GMT + 5:20"}, Odd{4.4F, 8, "GMT - 4:24"}, Odd{-14.0F, 31, "GMT + 14:00"},
-                            Odd{0.999999F, 12, "GMT - 1:00"}, Odd{-0.25F, 13, "GMT + 0:15"}, Odd{std::nanf(""), 13, ""},
-                            Odd{std::numeric_limits<float>::infinity(), 0, ""}}) {
-        state.ZoneHours = Each.Hours;
+    const float Infinity = std::numeric_limits<float>::infinity();
+    for (const auto& [Hours, Row, Text] : {std::tuple(-5.3333F, 21, "GMT + 5:20"),
+                                           {4.4F, 8, "GMT - 4:24"},
+                                           {-14.0F, 31, "GMT + 14:00"},
+                                           {0.999999F, 12, "GMT - 1:00"},
+                                           {-0.25F, 13, "GMT + 0:15"},
+                                           {std::nanf(""), 13, ""},
+                                           {Infinity, 0, ""}}) {
+        state.ZoneHours = Hours;
         SelectZoneRow();
-        EXPECT_EQ(FormConfigure.ComboSelTZ.ListIndex, Each.Row) << Each.Hours;
-        EXPECT_EQ(state.ZoneText, Each.Text);
+        EXPECT_EQ(FormConfigure.ComboSelTZ.ListIndex, Row) << Hours;
+        EXPECT_EQ(state.ZoneText, Text);
     }
 }
 
