@@ -29,9 +29,10 @@ QString ValueOf(const QCommandLineParser& Parser, const QString& Name) {
 }
 
 QDateTime TimeOf(const QString& Text) {
-    QDateTime Result = QDateTime::fromString(Text, "yyyy-MM-dd'T'HH:mm:ss'Z'");
+    // Date and time apart: the computer's own clock may skip the hour that both together name.
+    const QDateTime Result(QDate::fromString(Text.section('T', 0, 0), "yyyy-MM-dd"),
+                           QTime::fromString(Text.section('T', 1), "HH:mm:ss'Z'"), Qt::UTC);
     if (!Result.isValid()) throw UsageError("--at takes a time such as 2026-12-21T20:50:00Z, not " + Text);
-    Result.setTimeSpec(Qt::UTC);
     return Result;
 }
 
