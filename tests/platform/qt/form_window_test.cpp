@@ -60,6 +60,7 @@ TEST_F(Windows, AHandlerMayUnloadTheFormThatItBelongsTo) {
 
 TEST_F(Windows, ADialogStartsAtItsFirstFieldEachTimeToBeTypedAnew) {
     EXPECT_EQ(Window().focusWidget(), &Find<QWidget>(Demo.North));
+    EXPECT_TRUE(Window().testAttribute(Qt::WA_KeyboardFocusChange)) << "one sees where the keyboard is";
     Demo.Choice.Visible = false;
     Demo.Tick.Visible = false;
     for (const char* Typed : {"5000", "20"}) {
