@@ -5,6 +5,8 @@
 #include <QImage>
 #include <QtCore>
 
+#include "tests/golden.h"
+
 namespace {
 
 const QString Equinox = "--at 2026-03-20T12:00:00Z ";
@@ -56,7 +58,7 @@ TEST_F(Still, TheEquinoxIsLitInTheMiddleWhateverTheUsersOwnScreenAndZone) {
 
 TEST_F(Still, PrintsTheAlmanac) {
     Run("--almanac --at 2026-06-01T12:34:30Z --screen-width 1024 a.png");
-    EXPECT_EQ(Output.toStdString(), Stored("still_almanac.txt").toStdString());
+    gloamtide::ExpectGoldenText("still_almanac.txt", Output.toStdString());
 }
 
 TEST_F(Still, TellsInOneLineWhatIsWrongAndLeavesNoFile) {

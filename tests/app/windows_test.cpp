@@ -15,6 +15,7 @@
 #include "state/numbers.h"
 #include "storage/configuration.h"
 #include "tests/fresh_program.h"
+#include "tests/golden.h"
 
 namespace gloamtide {
 namespace {
@@ -149,9 +150,7 @@ protected:
 };
 
 TEST_P(OwnWindows, AreHeardAndSeenInFull) {
-    QFile Wanted(GLOAMTIDE_TEST_DATA "/data/spoken_windows.txt");
-    EXPECT_TRUE(Wanted.open(QIODevice::ReadOnly));
-    EXPECT_EQ(Told().toStdString(), Wanted.readAll().toStdString());
+    ExpectGoldenText("spoken_windows.txt", Told().toStdString());
 
     const QString Measured = "DejaVu Sans Condensed";  // the lettering of scripts/packages.txt
     if (!QFontDatabase::families().contains(Measured)) GTEST_SKIP() << "needs " << Measured.toStdString();

@@ -56,14 +56,20 @@ TEST_F(Windows, AHandlerMayUnloadTheFormThatItBelongsTo) {
     EXPECT_EQ(Heard, "") << "no timer of an unloaded form ticks";
     Demo.Show();
     EXPECT_EQ(Find<QLabel>(Demo.OnPicture).text(), "Nobody hears this") << "until it is loaded again";
+    Demo.Unload();
+    Demo.Show();
+    ASSERT_TRUE(PassTime());
+    Demo.OnPicture.Caption = "Heard";
+    EXPECT_EQ(Find<QLabel>(Demo.OnPicture).text(), "Heard") << "though the old window has gone since";
 }
 
 TEST_F(Windows, ADialogStartsAtItsFirstFieldEachTimeToBeTypedAnew) {
     EXPECT_EQ(Window().focusWidget(), &Find<QWidget>(Demo.North));
+    EXPECT_TRUE(Window().testAttribute(Qt::WA_KeyboardFocusChange)) << "one sees where the keyboard is";
     Demo.Choice.Visible = false;
     Demo.Tick.Visible = false;
     for (const char* Typed : {"5000", "20"}) {
-        Find<QPushButton>(Demo.OK).setFocus();
+        Find<QComboBox>(Demo.Zones).setFocus();
         Demo.Hide();
         Demo.Show();
         QTest::keyClicks(Window().focusWidget(), Typed);
