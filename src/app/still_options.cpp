@@ -30,10 +30,11 @@ QString ValueOf(const QCommandLineParser& Parser, const QString& Name) {
 
 QDateTime TimeOf(const QString& Text) {
     // Date and time apart: the computer's own clock may skip the hour that both together name.
-    const QDateTime Result(QDate::fromString(Text.section('T', 0, 0), "yyyy-MM-dd"),
-                           QTime::fromString(Text.section('T', 1), "HH:mm:ss'Z'"), Qt::UTC);
-    if (!Result.isValid()) throw UsageError("--at takes a time such as 2026-12-21T20:50:00Z, not " + Text);
-    return Result;
+    const QDate Date = QDate::fromString(Text.section('T', 0, 0), "yyyy-MM-dd");
+    const QTime Time = QTime::fromString(Text.section('T', 1), "HH:mm:ss'Z'");
+    if (!Date.isValid() || !Time.isValid())
+        throw UsageError("--at takes a time such as 2026-12-21T20:50:00Z, not " + Text);
+    return {Date, Time, Qt::UTC};
 }
 
 // A text as a number of pixels; 0 where it is none from Least to Most.
