@@ -1,5 +1,6 @@
 #include "storage/configuration.h"
 
+#include <sched.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -218,7 +219,7 @@ TEST_F(Configuration, AKilledProcessLeavesTheOldOrTheNewFileWhole) {
         const pid_t Child = fork();
         if (Child == 0) SaveInTurn();
         int Status = 0;
-        while (!fs::exists("my.gtf") && waitpid(Child, &Status, WNOHANG) == 0) continue;
+        while (!fs::exists("my.gtf") && waitpid(Child, &Status, WNOHANG) == 0) sched_yield();
         const timespec Pause{0, static_cast<long>(Random() % 2'000'000)};  // nanoseconds; only picks the moment
         nanosleep(&Pause, nullptr);
         kill(Child, SIGKILL);
