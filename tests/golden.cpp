@@ -24,34 +24,36 @@ std::string DifferenceFile(const std::string& Name) {
     return (DifferenceFolder / Name).string();
 }
 
-std::vector<png_byte> LevelsOf(const Bitmap& Picture) {
-    std::vector<png_byte> Levels;
+void WritePicture(const std::string& Path, const Bitmap& Picture) {
+    std::vector<png_byte> Bytes;
     for (const Color Each : Picture.Pixels) {
         for (const int Level : {RedOf(Each), GreenOf(Each), BlueOf(Each)}) {
-            Levels.push_back(static_cast<png_byte>(Level));
+            Bytes.push_back(static_cast<png_byte>(Level));
         }
     }
-    return Levels;
-}
-
-void WritePicture(const std::string& Path, const Bitmap& Picture) {
     png_image File{};
     File.version = PNG_IMAGE_VERSION;
     File.width = static_cast<png_uint_32>(Picture.Width);
     File.height = static_cast<png_uint_32>(Picture.Height);
     File.format = PNG_FORMAT_RGB;
-    const std::vector<png_byte> Levels = LevelsOf(Picture);
-    if (png_image_write_to_file(&File, Path.c_str(), 0, Levels.data(), 0, nullptr) == 0) ADD_FAILURE() << File.message;
+    if (png_image_write_to_file(&File, Path.c_str(), 0, Bytes.data(), 0, nullptr) == 0) ADD_FAILURE() << File.message;
 }
 
-bool IsStored(const std::string& Path, const Bitmap& Picture) {
+// Empty where there is none.
+Bitmap ReadPicture(const std::string& Path) {
     png_image File{};
     File.version = PNG_IMAGE_VERSION;
-    if (png_image_begin_read_from_file(&File, Path.c_str()) == 0) return false;
+    if (png_image_begin_read_from_file(&File, Path.c_str()) == 0) return {};
     File.format = PNG_FORMAT_RGB;
-    std::vector<png_byte> Levels(PNG_IMAGE_SIZE(File));
-    if (png_image_finish_read(&File, nullptr, Levels.data(), 0, nullptr) == 0) return false;
-    return static_cast<int>(File.width) == Picture.Width && Levels == LevelsOf(Picture);
+    Bitmap Picture(static_cast<int>(File.width), static_cast<int>(File.height), 0);
+    std::vector<png_byte> Bytes(Picture.Pixels.size() * 3);
+    if (png_image_finish_read(&File, nullptr, Bytes.data(), 0, nullptr) == 0) return {};
+    const png_byte* Level = Bytes.data();
+    for (Color& Each : Picture.Pixels) {
+        Each = RGB(Level[0], Level[1], Level[2]);
+        Level += 3;
+    }
+    return Picture;
 }
 
 // A control with a caption, in its own size or in that of its text.
@@ -93,7 +95,9 @@ void ExpectGoldenText(const std::string& Name, const std::string& Actual) {
     Expected << std::ifstream(GoldenFile(Name)).rdbuf();
     if (Actual == Expected.str()) return;
     std::ofstream(DifferenceFile(Name)) << Actual;
-    ADD_FAILURE() << GoldenFile(Name).string() << " differs from what is shown: " << DifferenceFile(Name);
+    const auto Same = std::mismatch(Actual.begin(), Actual.end(), Expected.view().begin(), Expected.view().end()).first;
+    ADD_FAILURE() << GoldenFile(Name).string() << ':' << 1 + std::count(Actual.begin(), Same, '\n')
+                  << ": from here on something else is shown: " << DifferenceFile(Name);
 }
 
 void ExpectGoldenPicture(const std::string& Name, const Bitmap& Actual) {
@@ -102,9 +106,18 @@ void ExpectGoldenPicture(const std::string& Name, const Bitmap& Actual) {
         WritePicture(GoldenFile(File).string(), Actual);
         GTEST_SKIP() << File << " is taken in";
     }
-    if (IsStored(GoldenFile(File).string(), Actual)) return;
+    const Bitmap Expected = ReadPicture(GoldenFile(File).string());
+    if (Expected.Width == Actual.Width && Expected.Pixels == Actual.Pixels) return;
+    Bitmap Difference(Actual.Width, Actual.Height, RGB(255, 0, 0));
+    const bool SameSize = Expected.Width == Actual.Width && Expected.Height == Actual.Height;
+    for (std::size_t Pixel = 0; SameSize && Pixel < Actual.Pixels.size(); ++Pixel) {
+        if (Expected.Pixels[Pixel] == Actual.Pixels[Pixel]) Difference.Pixels[Pixel] = 0;
+    }
+    const auto Differing = std::count(Difference.Pixels.begin(), Difference.Pixels.end(), RGB(255, 0, 0));
     WritePicture(DifferenceFile(File), Actual);
-    ADD_FAILURE() << GoldenFile(File).string() << " differs from what is shown: " << DifferenceFile(File);
+    WritePicture(DifferenceFile("pictures/" + Name + "-difference.png"), Difference);
+    ADD_FAILURE() << Differing << " pixels differ from " << GoldenFile(File).string() << "; see "
+                  << DifferenceFile(File) << " and the difference beside it";
 }
 
 void Lay(Bitmap& On, const Bitmap& Piece, int Left, int Top) {

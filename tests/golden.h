@@ -1,8 +1,9 @@
 // What the program showed when somebody last looked at it and found it right, kept in tests/data/: it has to show the
 // same again, to the pixel and to the letter.
 //
-// A difference leaves what is shown now in the folder golden/ of the folder that the tests were started in. With
-// GLOAMTIDE_TAKE_GOLDEN=1 in the environment the tests store what is shown now and are skipped.
+// A difference leaves what is shown now, and for a picture where it differs, in the folder golden/ of the folder that
+// the tests were started in. With GLOAMTIDE_TAKE_GOLDEN=1 in the environment the tests store what is shown now and are
+// skipped.
 #pragma once
 
 #include <filesystem>

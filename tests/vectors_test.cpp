@@ -199,6 +199,20 @@ TEST_F(Vectors, DayStripsAndRows) {
     }
 }
 
+TEST_F(Vectors, Analemma) {
+    ForEachRow("analemma", [this](const VectorRow& R) {
+        SetScreenOfRow();
+        Bitmap Expected = Map;
+        for (const VectorValues& Dot : R.Groups) {
+            const int X = static_cast<int>(state.MapWidth - Dot["X"]);
+            const int Y = static_cast<int>((80.0 - Dot["Y"]) / 150.0 * state.MapHeight);
+            Expected.Row(Y)[X] = QBColor(15);
+        }
+        DrawAnalemma();
+        EXPECT_EQ(Map.Pixels, Expected.Pixels);
+    });
+}
+
 // On both axes the disc reaches almost as far as its radius, its rays not much farther.
 TEST_F(Vectors, SunMarker) {
     ForEachRow("sun_marker", [this](const VectorRow& R) {
@@ -226,6 +240,23 @@ TEST_F(Vectors, TheHourRulerPrintsItsHoursInTurn) {
     } Printer;
     DrawZoneHourRuler();
     EXPECT_EQ(Printer.Texts, "00" /* measured */ "000102030405060708091011121314151617181920212223");
+}
+
+// The headless host's letters are full boxes: a column lies in the middle of its two.
+TEST_F(Vectors, HourRuler) {
+    ForEachRow("hour_ruler", [this](const VectorRow& R) {
+        SetScreenOfRow();
+        DrawZoneHourRuler();
+        const float Half = state.HourRulerHalfText;
+        const Color* const Row = Map.Row(static_cast<int>(146.0 / 150.0 * state.MapHeight) + 2);
+        for (const VectorValues& Hour : R.Groups) {
+            for (const float Off : {-Half - 1.5F, -Half + 1.5F, Half - 1.5F, Half + 1.5F}) {
+                const double X = Hour["column"] + Off;
+                const bool Outside = X < 0.0 || X >= state.MapWidth;
+                EXPECT_TRUE(Outside || (Row[static_cast<int>(X)] != NightColor) == (std::abs(Off) < Half)) << X;
+            }
+        }
+    });
 }
 
 TEST_F(Vectors, DateBand) {

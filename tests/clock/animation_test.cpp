@@ -53,6 +53,19 @@ TEST_F(Animation, AnHourASecondWithABeepUntilItIsStopped) {
     EXPECT_EQ(state.CurrentJD, state.SystemJD + Offset) << "the clock runs on from there";
 }
 
+TEST_F(Animation, YearsAreCountedOnTheClockOfTheLocation) {
+    state.DaylightHours = 1;
+    state.AnimYears = 1.0F;
+    state.AnimHours = 0.0F;
+    F.MenuAnimationSubStart.Click();
+    // 2024 March 1, 0:30, and February 29, 12:30, which becomes March 1.
+    for (const auto& [JD, Days] : {std::pair(2460370.6875, 365.0), std::pair(2460370.1875, 366.0)}) {
+        state.CurrentJD = JD;
+        F.Timer3.Tick();
+        EXPECT_NEAR(state.CurrentJD - JD, Days, 2.0 / 86400.0);
+    }
+}
+
 struct LongRun {
     const char* Name;
     float Years, Days;

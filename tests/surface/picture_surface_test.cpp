@@ -56,6 +56,18 @@ protected:
     PictureSurface& O = Forms.Other;
 };
 
+TEST_F(Surface, ALineIncludesBothEndsAndIsTheSameBothWays) {
+    const int Ends[][4] = {{3, 4, 20, 9}, {5, 25, 8, 2}, {7, 7, 7, 7}, {2, 3, 2, 20}, {30, 5, 1, 5}, {0, 0, 29, 29}};
+    for (const auto& E : Ends) {
+        S.Line(E[0], E[1], E[2], E[3], White);
+        const Pixels Forth = Taken();
+        EXPECT_TRUE(Forth.contains({E[0], E[1]}) && Forth.contains({E[2], E[3]}));
+        EXPECT_EQ(Forth.size(), static_cast<std::size_t>(std::max(std::abs(E[2] - E[0]), std::abs(E[3] - E[1])) + 1));
+        S.LineTo(E[0], E[1], White);
+        EXPECT_EQ(Taken(), Forth);
+    }
+}
+
 // What is seen of a line must not depend on how much of it lies outside.
 TEST_F(Surface, ClippingMovesNoPixel) {
     const double Ends[][4] = {{-50, -20, 90, 47}, {-13, 60, 45, -31}, {20, -1000, 25, 2000}, {-100000, 3, 300000, 29}};
@@ -194,6 +206,16 @@ TEST_F(Surface, TransfersAreClippedAtBothSurfacesAndNeverFlipped) {
     BitBlt(O, 3, 2, 30, 20, O, 0, 0);  // within itself
     EXPECT_EQ(O.Picture.Row(21)[32], RGB(30, 20, 7));
     EXPECT_EQ(O.Picture.Row(2)[3], RGB(1, 1, 7));
+}
+
+TEST_F(Surface, StretchingKeepsFlatColoursFlat) {
+    O.BackColor = RGB(0, 119, 225);
+    for (const auto& [W, H] : {std::pair(40, 30), std::pair(39, 17), std::pair(7, 29), std::pair(400, 300)}) {
+        StretchBlt(S, 0, 0, W, H, O, 1, 1, 23, 19);
+        for (int Y = 0; Y < std::min(H, 30); ++Y) {
+            for (int X = 0; X < std::min(W, 40); ++X) ASSERT_EQ(S.Picture.Row(Y)[X], RGB(0, 119, 225));
+        }
+    }
 }
 
 TEST_F(Surface, ShrinkingWeighsByAreaAndEnlargingRunsEvenly) {
