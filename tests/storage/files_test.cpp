@@ -148,15 +148,16 @@ TEST_F(Files, ASaveKeepsOwnersPermissionsAndNamesAndLeavesNothingBehind) {
 
 // As in two containers with one folder: the process number does not tell them apart.
 TEST_F(Files, TwoOfTheSameProcessNumberSaveAtOnce) {
-    const auto SaveOften = [](char Letter) {
-        for (int Time = 0; Time < 100; ++Time) gloamtide::WriteFile("my.gtf", std::string(1008, Letter));
+    const auto TextOf = [](char Letter) { return std::string(Letter == 'a' ? 1008 : 5000, Letter); };
+    const auto SaveOften = [&](char Letter) {
+        for (int Time = 0; Time < 100; ++Time) gloamtide::WriteFile("my.gtf", TextOf(Letter));
     };
-    gloamtide::WriteFile("my.gtf", std::string(1008, 'a'));
+    gloamtide::WriteFile("my.gtf", TextOf('a'));
     auto One = std::async(std::launch::async, SaveOften, 'a');
     auto Other = std::async(std::launch::async, SaveOften, 'b');
     while (One.wait_for(0s) != std::future_status::ready || Other.wait_for(0s) != std::future_status::ready) {
-        const std::string Kept = ReadFile("my.gtf", 2000);
-        ASSERT_EQ(Kept, std::string(1008, Kept.at(0)));
+        const std::string Kept = ReadFile("my.gtf", 9999);
+        ASSERT_EQ(Kept, TextOf(Kept.at(0)));
     }
     One.get();  // throws what it met
     Other.get();
