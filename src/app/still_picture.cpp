@@ -34,6 +34,7 @@ StillPicture::StillPicture(const StillOptions& TheAsked) : Asked(TheAsked), Desk
     state.ConfigFilePath = Asked.Configuration;
     ConfigurationRead = [this] { ChangeConfiguration(Asked); };
     StartProgram();
+    ConfigurationRead = nullptr;
     FormWindow& Window = *Desktop.WindowOf(FormGTMain);
     if (Asked.OnlyMap && !Asked.Size.isEmpty()) {
         Window.FixScale(
