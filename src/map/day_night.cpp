@@ -11,6 +11,8 @@
 #include "map/moon_disc.h"
 #include "map/stored_pictures.h"
 #include "map/sun_overlays.h"
+#include "map/twilight.h"
+#include "state/extras.h"
 #include "state/numbers.h"
 #include "sundial/dial.h"
 
@@ -84,8 +86,23 @@ void LayDayRows() {
     }
 }
 
+// The edge between day and night is soft where the user asks for it, and on the terrain.
+void LayDay() {
+    if (extras.TwilightShown == True || state.MapTypeShown == TerrainMap) {
+        LayTwilight();
+        return;
+    }
+    StartStrips();
+    if (FormPictures.PictureNightSplit.Density == 1.0) {
+        LayDayStrips();
+    } else {
+        LayDayRows();
+    }
+}
+
 // The order decides what covers what.
 void DrawOverlays() {
+    if (extras.TwilightLinesShown == True) DrawTwilightLines();
     if (state.ShowSun == True) DrawSunMarker();
     if (state.ShowMoon == True) DrawMoonDisc();
     if (state.ShowAnalemma == True) DrawAnalemma();
@@ -112,12 +129,7 @@ void BlitDayStrip() {
 void RedrawMap() {
     RotateMap();
     RotateDayAndNight();
-    StartStrips();
-    if (FormPictures.PictureNightSplit.Density == 1.0) {
-        LayDayStrips();
-    } else {
-        LayDayRows();
-    }
+    LayDay();
     DrawOverlays();
     FormGTMain.PictureGT.TakePicture(FormPictures.PictureNightSplit.Picture);
 }

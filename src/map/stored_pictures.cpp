@@ -11,6 +11,7 @@
 #include "map/graticule.h"
 #include "map/zone_lines.h"
 #include "platform/host.h"
+#include "state/extras.h"
 #include "surface/stored_bitmap.h"
 
 namespace gloamtide {
@@ -44,9 +45,9 @@ void Put(PictureSurface& Original, Bitmap Image) {
     Original.Picture = std::move(Image);
 }
 
-void Stretch(PictureSurface& To, PictureSurface& Original) {
+void Stretch(PictureSurface& To, PictureSurface& Original, Averaging Averaged = Averaging::Levels) {
     StretchBlt(To, 0, 0, state.MapWidth, state.MapHeight, Original, 0, 0, Original.Picture.Width,
-               Original.Picture.Height);
+               Original.Picture.Height, Averaged);
 }
 
 // Puts the finer picture on the original's surface, where it stays while the type does: a window whose size changes
@@ -78,6 +79,22 @@ void MakePlain(const MapPictures& Pictures, const MapSource& Source) {
     Source.NightOriginal.Picture = Bitmap();
 }
 
+// The originals are larger than any map but the finest, so they are reduced as light. They stay like a finer picture of
+// the others. False where the host does not decode them: then the natural map serves.
+bool MakeTerrain(const MapPictures& Pictures) {
+    PictureSurface& Day = FormPictures.PictureDayOrig;
+    PictureSurface& Night = FormPictures.PictureNightOrig;
+    if (Day.Picture.Empty()) {
+        Put(Day, host->DecodePicture(TerrainDayWebp()));
+        Put(Night, host->DecodePicture(TerrainNightWebp()));
+    }
+    if (Day.Picture.Empty() || Night.Picture.Empty()) return false;
+    Stretch(Pictures.Day, Day, Averaging::Light);
+    Stretch(Pictures.Night, Night, Averaging::Light);
+    if (Pictures.Day.Density <= 1.0) Day.Picture = Night.Picture = Bitmap();
+    return true;
+}
+
 MapPictures ChooseMapPictures() {
     PicturesForm& F = FormPictures;
     if (state.ShowCities == True && state.ShowTimezones == True) return {F.PictureTZCitiesDay, F.PictureTZCitiesNight};
@@ -96,9 +113,13 @@ void FormPictures_Form_Load() { FormPictures.PictureTZmask.SetPicture(DecodeBmp(
 
 void ResetMapPictures() {
     if (state.MapType != 0 && state.MapType != 1) return;
-    state.MapTypeShown = state.MapType;
+    const bool Terrain = state.MapType == 0 && extras.TerrainShown == True;
+    state.MapTypeShown = Terrain ? TerrainMap : state.MapType;
     DropMapPictures();
-    FormPictures.PictureDayOrig.Picture = FormPictures.PicturePolitDayOrig.Picture = Bitmap();
+    PicturesForm& F = FormPictures;
+    for (PictureSurface* Each : {&F.PictureDayOrig, &F.PictureNightOrig, &F.PicturePolitDayOrig}) {
+        Each->Picture = Bitmap();
+    }
 }
 
 MapPictures ShownMapPictures() {
@@ -107,7 +128,11 @@ MapPictures ShownMapPictures() {
     DropMapPictures();
     Shown.Day.Canvas();
     Shown.Night.Canvas();
-    if (state.MapTypeShown >= 0) MakePlain(Shown, SourceOf(state.MapTypeShown));
+    if (state.MapTypeShown == TerrainMap) {
+        if (!MakeTerrain(Shown)) MakePlain(Shown, SourceOf(0));
+    } else if (state.MapTypeShown >= 0) {
+        MakePlain(Shown, SourceOf(state.MapTypeShown));
+    }
     DrawCityMarks();
     DrawTimeZoneLines();
     return Shown;

@@ -168,7 +168,7 @@ struct SharedState {
     std::int16_t LocationLongMinutes = 0;
 
     // map/stored_pictures
-    std::int16_t MapTypeShown = -1;  // the MapType that the cached pictures were made for
+    std::int16_t MapTypeShown = -1;  // the MapType that the cached pictures were made for; 2: terrain
 
     // map/geometry: set at the start of each redraw
     float RotationHour = 0.0F;  // hours, 0 up to 24
