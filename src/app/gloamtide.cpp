@@ -3,11 +3,14 @@
 #include <QApplication>
 #include <QIcon>
 #include <QPixmap>
+#include <QPointer>
 #include <QStandardPaths>
 
 #include "app/command_line.h"
+#include "app/film_dialog.h"
 #include "app/screens.h"
 #include "assets/assets.h"
+#include "forms/form_gt_main.h"
 #include "frame/startup.h"
 #include "platform/qt/qt_host.h"
 
@@ -34,6 +37,13 @@ int ShowProgram() {
     Desktop.KeepSettings(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
                          "/gloamtide/gloamtide.ini");
     Desktop.ChooseScreen(ProgramScreens(), QtHost::LargestWindow());
+    QPointer<FilmDialog> Film;
+    FormGTMain.MenuAnimationSubFilm.Click = [&] {
+        if (Film == nullptr) Film = new FilmDialog(Desktop.WindowOf(FormGTMain));
+        Film->show();
+        Film->raise();
+        Film->activateWindow();
+    };
     StartProgram();
     return Desktop.Run();
 }
