@@ -5,6 +5,7 @@
 #include "astro/degrees.h"
 #include "forms/form_gt_main.h"
 #include "forms/form_pictures.h"
+#include "map/city_names.h"
 #include "map/geometry.h"
 #include "map/graticule.h"
 #include "map/hour_ruler.h"
@@ -103,6 +104,7 @@ void LayDay() {
 // The order decides what covers what.
 void DrawOverlays() {
     if (extras.TwilightLinesShown == True) DrawTwilightLines();
+    if (extras.CityNamesShown == True) DrawCityNames();
     if (state.ShowSun == True) DrawSunMarker();
     if (state.ShowMoon == True) DrawMoonDisc();
     if (state.ShowAnalemma == True) DrawAnalemma();

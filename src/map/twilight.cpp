@@ -62,6 +62,11 @@ private:
     const double StepsToOne = static_cast<double>(Shares.size()) / (SinDeg(FullDay) - Lowest);
 };
 
+const DayShares& DayShareTable() {
+    static const DayShares Table;
+    return Table;
+}
+
 // Mixes day and night along a row, and knows the columns' hour angles.
 class Mixer {
 public:
@@ -125,7 +130,7 @@ private:
     const double Noon = NoonColumn(Columns);
     std::vector<float> Cosines;  // of the hour angle at the middle of each column
     const LinearLight& Light = LinearLightTables();
-    inline static const DayShares Shares;
+    const DayShares& Shares = DayShareTable();
 };
 
 struct TwilightLine {
