@@ -62,23 +62,26 @@ public:
 
     // Writes all names on a map that is turned by so many device pixels.
     void Write(PictureSurface& Map, int Turned) const {
+        std::vector<Box> Changed;  // places of names that the edge would have cut
         for (const PlacedName& Each : Names) {
             const int Across = Each.Mark.X < Turned ? Columns - Turned : -Turned;
             Box Place = Each.Place.Moved(Across);
             if (Place.Left < 0 || Place.Right > Columns) {
-                const auto Other = PlaceWithin(Each, Turned);
+                const auto Other = PlaceWithin(Each, Across, Changed);
                 if (!Other) continue;
                 Place = Other->Moved(Across);
+                Changed.push_back(Place);
             }
             MarkCity(Map, Each.Mark);
-            LayText(Map.Canvas(), Each.Letters, Place.Left + Margin(), Place.Top, RGB(255, 255, 255), RimWidth());
+            LayText(Map.Canvas(), Each.Letters, Place.Left + Margin(), Place.Top + RimWidth(), RGB(255, 255, 255),
+                    RimWidth());
         }
     }
 
 private:
     int Pixels(double Wanted) const { return std::max(1, static_cast<int>(std::lround(Wanted * Density))); }
     int RimWidth() const { return std::max(1, static_cast<int>(std::lround(std::sqrt(Density)))); }
-    int Margin() const { return RimWidth() + 1; }  // between two names
+    int Margin() const { return RimWidth() + 1; }  // left and right of the letters, with their rim
 
     // As a town is called: without its country.
     static std::string TownOf(const CityMark& Mark) {
@@ -87,7 +90,7 @@ private:
     }
 
     Box MarkBox(const CityMark& Mark) const {
-        const int Reach = Pixels(state.CityMarkerRadius);
+        const int Reach = Pixels(state.CityMarkerRadius) + (Pixels(1.0) - 1) / 2;  // half its pen lies outside
         const int X = static_cast<int>(std::floor(Mark.X));
         const int Y = static_cast<int>(std::floor(Mark.Y));
         return {X - Reach, Y - Reach, X + Reach + 1, Y + Reach + 1};
@@ -97,12 +100,12 @@ private:
     std::vector<Box> PlacesBeside(const CityMark& Mark, const GlyphMask& Letters) const {
         const Box Dot = MarkBox(Mark);
         const int W = Letters.Width + 2 * Margin();
-        const int H = Letters.Height;
+        const int H = Letters.Height + 2 * RimWidth();
         const int X = (Dot.Left + Dot.Right) / 2;
         const int Y = (Dot.Top + Dot.Bottom) / 2;
         const auto At = [&](int Left, int Top) { return Box{Left, Top, Left + W, Top + H}; };
-        return {At(Dot.Right, Y - H / 2),       At(Dot.Left - W, Y - H / 2),   At(Dot.Right, Y - H),
-                At(Dot.Right, Y),               At(Dot.Left - W, Y - H),       At(Dot.Left - W, Y),
+        return {At(Dot.Right, Y - H / 2),   At(Dot.Left - W, Y - H / 2), At(Dot.Right, Y - H),
+                At(Dot.Right, Y),           At(Dot.Left - W, Y - H),     At(Dot.Left - W, Y),
                 At(X - W / 2, Dot.Top - H), At(X - W / 2, Dot.Bottom)};
     }
 
@@ -118,7 +121,8 @@ private:
                             [&](const CityMark& Each) { return Each.City != Of.City && Meets(MarkBox(Each)); });
     }
 
-    // Letters grow with the root of the density: at a scale of 4 they are twice as large, and the map has room for more.
+    // Letters grow with the root of the density: at a scale of 4 they are twice as large, and the map has room for
+    // more.
     void PlaceName(const CityMark& Mark) {
         Font Small = FormPictures.PictureNightSplit.CurrentFont();
         Small.Name = "MS Sans Serif";
@@ -131,12 +135,13 @@ private:
         }
     }
 
-    // Another place for a name that the edge of the turned map would cut.
-    std::optional<Box> PlaceWithin(const PlacedName& Name, int Turned) const {
-        const int Across = Name.Mark.X < Turned ? Columns - Turned : -Turned;
+    // Another place for a name, on the map that is moved Across, off its edges and those already changed.
+    std::optional<Box> PlaceWithin(const PlacedName& Name, int Across, const std::vector<Box>& Changed) const {
         for (const Box& Place : PlacesBeside(Name.Mark, Name.Letters)) {
             const Box Shown = Place.Moved(Across);
-            if (Shown.Left >= 0 && Shown.Right <= Columns && IsFree(Place, Name.Mark)) return Place;
+            const auto Meets = [&](const Box& Other) { return Shown.Meets(Other); };
+            const bool Clear = std::none_of(Changed.begin(), Changed.end(), Meets);
+            if (Clear && Shown.Left >= 0 && Shown.Right <= Columns && IsFree(Place, Name.Mark)) return Place;
         }
         return std::nullopt;
     }

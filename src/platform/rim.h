@@ -9,7 +9,9 @@ namespace gloamtide {
 
 constexpr Color RimColor = RGB(16, 16, 24);
 
-constexpr int BrightnessOf(Color Value) { return (54 * RedOf(Value) + 183 * GreenOf(Value) + 19 * BlueOf(Value)) / 256; }
+constexpr int BrightnessOf(Color Value) {
+    return (54 * RedOf(Value) + 183 * GreenOf(Value) + 19 * BlueOf(Value)) / 256;
+}
 
 // How strong the rim is on this ground, 0 to 255: there is none on the blue of the sea or darker, and it is full where
 // yellow has less than three times the luminance.
