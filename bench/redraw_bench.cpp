@@ -53,7 +53,8 @@ void Redraw(benchmark::State& Runs, Boolean Overlays, double Density) {
     SetDensity(1.0);
 }
 
-// The soft edge, and all overlays that any map can have. Nothing decodes the terrain here: the natural map has its edge.
+// The soft edge, and all overlays that any map can have. Nothing decodes the terrain here: the natural map has its
+// edge.
 void RedrawTerrain(benchmark::State& Runs, double Density) {
     StartOnce();
     extras.TerrainShown = extras.TwilightLinesShown = extras.CityNamesShown = True;
