@@ -104,13 +104,13 @@ void LayDay() {
 // The order decides what covers what.
 void DrawOverlays() {
     if (extras.TwilightLinesShown == True) DrawTwilightLines();
-    if (extras.CityNamesShown == True) DrawCityNames();
     if (state.ShowSun == True) DrawSunMarker();
     if (state.ShowMoon == True) DrawMoonDisc();
     if (state.ShowAnalemma == True) DrawAnalemma();
     if (state.ShowTimezones == True) DrawZoneHourRuler();
     FormGTMain.LabelZonehour.Visible = state.ShowTimezones == True;
     if (state.ShowMapGrid == True) DrawMapGrid();
+    if (extras.CityNamesShown == True) DrawCityNames();
     DrawDateBand();
     if (state.ShowSundial == True) DrawSundial();
     FormGTMain.PictureSundial.Visible = state.ShowSundial == True;

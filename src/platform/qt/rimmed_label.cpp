@@ -9,14 +9,15 @@
 
 namespace gloamtide {
 
-// The picture's pixel under a place of this widget.
+// The picture's colour under a place of this widget.
 Color RimmedLabel::GroundAt(const QPointF& Place) const {
     const QRect Inner = dynamic_cast<const PictureView&>(*parentWidget()).InnerArea();
     const Bitmap& Picture = Ground->Picture;
-    const QPointF On = mapToParent(Place) - Inner.topLeft();
-    const int X = static_cast<int>(On.x() * Picture.Width / std::max(1, Inner.width()));
-    const int Y = static_cast<int>(On.y() * Picture.Height / std::max(1, Inner.height()));
-    return Picture.Row(std::clamp(Y, 0, Picture.Height - 1))[std::clamp(X, 0, Picture.Width - 1)];
+    const QPointF On = (mapToParent(Place) - Inner.topLeft()) * Picture.Width / std::max(1, Inner.width());
+    const int X = static_cast<int>(On.x());
+    const int Y = static_cast<int>(On.y());
+    const bool Inside = X >= 0 && Y >= 0 && X < Picture.Width && Y < Picture.Height;
+    return Inside ? Picture.Row(Y)[X] : Ground->BackColor.Get();
 }
 
 // How strongly the letters, spread by their rim, cover each device pixel.
