@@ -5,6 +5,7 @@
 #include "astro/degrees.h"
 #include "forms/form_gt_main.h"
 #include "forms/form_pictures.h"
+#include "map/city_names.h"
 #include "map/geometry.h"
 #include "map/graticule.h"
 #include "map/hour_ruler.h"
@@ -109,6 +110,7 @@ void DrawOverlays() {
     if (state.ShowTimezones == True) DrawZoneHourRuler();
     FormGTMain.LabelZonehour.Visible = state.ShowTimezones == True;
     if (state.ShowMapGrid == True) DrawMapGrid();
+    if (extras.CityNamesShown == True) DrawCityNames();
     DrawDateBand();
     if (state.ShowSundial == True) DrawSundial();
     FormGTMain.PictureSundial.Visible = state.ShowSundial == True;

@@ -1,5 +1,6 @@
 #include "map/stored_pictures.h"
 
+#include <future>
 #include <utility>
 
 #include "assets/assets.h"
@@ -66,9 +67,12 @@ bool HasFineDay(const MapSource& Source) {
 
 void MakePlain(const MapPictures& Pictures, const MapSource& Source) {
     if (HasFineDay(Source)) {
-        Put(Source.NightOriginal, NightOf(Source.DayOriginal.Picture, Source.Darkening, Source.NightSea));
-        Stretch(Pictures.Night, Source.NightOriginal);
+        auto Night = std::async(std::launch::async, [&] {  // what takes longest when a window has a new size
+            Put(Source.NightOriginal, NightOf(Source.DayOriginal.Picture, Source.Darkening, Source.NightSea));
+            Stretch(Pictures.Night, Source.NightOriginal);
+        });
         Stretch(Pictures.Day, Source.DayOriginal);
+        Night.get();
     } else {
         Put(Source.NightOriginal, DecodeBmp(Source.Night));
         Put(Source.DayOriginal, DecodeBmp(Source.Day));
@@ -84,15 +88,16 @@ void MakePlain(const MapPictures& Pictures, const MapSource& Source) {
 bool MakeTerrain(const MapPictures& Pictures) {
     PictureSurface& Day = FormPictures.PictureDayOrig;
     PictureSurface& Night = FormPictures.PictureNightOrig;
-    if (Day.Picture.Empty()) {
-        Put(Day, host->DecodePicture(TerrainDayWebp()));
-        Put(Night, host->DecodePicture(TerrainNightWebp()));
-    }
-    if (Day.Picture.Empty() || Night.Picture.Empty()) return false;
-    Stretch(Pictures.Day, Day, Averaging::Light);
-    Stretch(Pictures.Night, Night, Averaging::Light);
-    if (Pictures.Day.Density <= 1.0) Day.Picture = Night.Picture = Bitmap();
-    return true;
+    const auto Make = [](PictureSurface& Shown, PictureSurface& Original, AssetBytes Stored) {
+        if (Original.Picture.Empty()) Put(Original, host->DecodePicture(Stored));
+        Stretch(Shown, Original, Averaging::Light);
+    };
+    auto MakingNight = std::async(std::launch::async, [&] { Make(Pictures.Night, Night, TerrainNightWebp()); });
+    Make(Pictures.Day, Day, TerrainDayWebp());
+    MakingNight.get();
+    const bool Made = !Day.Picture.Empty() && !Night.Picture.Empty();
+    if (!Made || Pictures.Day.Density <= 1.0) Day.Picture = Night.Picture = Bitmap();
+    return Made;
 }
 
 MapPictures ChooseMapPictures() {
@@ -103,8 +108,18 @@ MapPictures ChooseMapPictures() {
     return {F.PictureDay, F.PictureNight};
 }
 
-void DropMapPictures() {
-    for (PictureSurface* Each : FormPictures.WorkPictures()) Each->Picture = Bitmap();
+// Those that are shown again are made where they were.
+void EmptyMapPictures() {
+    for (PictureSurface* Each : FormPictures.WorkPictures()) Each->Picture.Renew(0, 0, 0);
+}
+
+void DropOtherMapPictures(const MapPictures& Shown) {
+    const PicturesForm& F = FormPictures;
+    for (PictureSurface* Each : FormPictures.WorkPictures()) {
+        const bool Needed =
+            Each == &Shown.Day || Each == &Shown.Night || Each == &F.PictureDaySplit || Each == &F.PictureNightSplit;
+        if (!Needed) Each->Picture = Bitmap();
+    }
 }
 
 }  // namespace
@@ -115,7 +130,7 @@ void ResetMapPictures() {
     if (state.MapType != 0 && state.MapType != 1) return;
     const bool Terrain = state.MapType == 0 && extras.TerrainShown == True;
     state.MapTypeShown = Terrain ? TerrainMap : state.MapType;
-    DropMapPictures();
+    EmptyMapPictures();
     PicturesForm& F = FormPictures;
     for (PictureSurface* Each : {&F.PictureDayOrig, &F.PictureNightOrig, &F.PicturePolitDayOrig}) {
         Each->Picture = Bitmap();
@@ -125,7 +140,7 @@ void ResetMapPictures() {
 MapPictures ShownMapPictures() {
     const MapPictures Shown = ChooseMapPictures();
     if (!Shown.Day.Picture.Empty()) return Shown;
-    DropMapPictures();
+    DropOtherMapPictures(Shown);
     Shown.Day.Canvas();
     Shown.Night.Canvas();
     if (state.MapTypeShown == TerrainMap) {
@@ -144,7 +159,7 @@ void FollowDensity() {
     const bool AllFollow = F.PictureGTContainer.Density == Density && F.PictureSundial.Density == Density;
     if (!AllFollow || F.PictureGT.Picture.Empty()) return;
     for (PictureSurface* Each : FormPictures.WorkPictures()) Each->Density = Density;
-    DropMapPictures();
+    EmptyMapPictures();
     RedrawMap();
 }
 

@@ -29,7 +29,7 @@ struct Parallel {
     // The hour angle, degrees, up to which the Sun stands higher than an altitude: 0 where it never does, 180 where it
     // always does.
     double HalfArc(double Altitude) const {
-        return std::acos(std::clamp((SinDeg(Altitude) - Middle) / Reach, -1.0, 1.0)) * 180.0 / Pi;
+        return std::acos(std::clamp((SinDeg(Altitude) - Middle) / Reach, -1.0, 1.0)) / std::acos(-1.0) * 180.0;
     }
 };
 
@@ -62,6 +62,11 @@ private:
     const double StepsToOne = static_cast<double>(Shares.size()) / (SinDeg(FullDay) - Lowest);
 };
 
+const DayShares& DayShareTable() {
+    static const DayShares Table;
+    return Table;
+}
+
 // Mixes day and night along a row, and knows the columns' hour angles.
 class Mixer {
 public:
@@ -76,13 +81,13 @@ public:
         // Columns left and right of noon, as if the map went on beyond its seam, once round.
         const int First = static_cast<int>(std::ceil(Noon - 0.5 * Columns - 0.5));
         const int Last = First + Columns - 1;
-        const auto Within = [&](double Altitude) {
-            const double Half = Sun.HalfArc(Altitude) * Columns / 360.0;
+        const auto Within = [&](double Half) {
             return std::pair(std::max(First, static_cast<int>(std::ceil(Noon - Half - 0.5))),
                              std::min(Last, static_cast<int>(std::floor(Noon + Half - 0.5))));
         };
-        const auto [FirstLit, LastLit] = Within(FullNight);
-        const auto [FirstDay, LastDay] = Within(FullDay);
+        const auto [FirstLit, LastLit] = Within(Sun.HalfArc(FullNight) * Columns / 360.0);
+        const auto [FirstDay, LastDay] =
+            Within(Sun.HalfArc(FullDay) * Columns / 360.0 - 1.0);  // the outermost is mixed
         const auto Mix = [&](int From, int To) { MixColumns(Day, Night, From, To, Sun); };
         const auto Copy = [&](int From, int To) { std::copy(Day + From, Day + To, Night + From); };
         if (FirstDay > LastDay) {
@@ -125,7 +130,7 @@ private:
     const double Noon = NoonColumn(Columns);
     std::vector<float> Cosines;  // of the hour angle at the middle of each column
     const LinearLight& Light = LinearLightTables();
-    inline static const DayShares Shares;
+    const DayShares& Shares = DayShareTable();
 };
 
 struct TwilightLine {
@@ -155,7 +160,9 @@ void DrawTwilightLine(const TwilightLine& Each) {
         const bool Crosses = std::max(Before, Here) > 0.0 && std::min(Before, Here) < Beyond;
         for (const double Side : {-1.0, 1.0}) {
             for (const double Turn : {-1.0, 0.0, 1.0}) {
-                const auto X = [&](double Half) { return state.MapWidth - (Noon + Side * Half + Turn * state.MapWidth); };
+                const auto X = [&](double Half) {
+                    return state.MapWidth - (Noon + Side * Half + Turn * state.MapWidth);
+                };
                 if (!Crosses || std::max(X(Before), X(Here)) < 0.0 || std::min(X(Before), X(Here)) > state.MapWidth) {
                     continue;
                 }

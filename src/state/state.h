@@ -223,6 +223,7 @@ struct SharedState {
     std::array<float, 401> CityLongitude{};  // degrees, east positive
     std::array<float, 401> CityLatitude{};   // degrees, north positive
     std::array<std::string, 401> CityName;
+    std::array<float, 401> CityPeople{};  // thousands; 0: a smaller town
     std::int16_t CityCount = 0;
 
     // places/zones: rows from 0

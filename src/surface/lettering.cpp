@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/rim.h"
+
 namespace gloamtide {
 namespace {
 
@@ -33,15 +35,7 @@ int RimAt(const GlyphMask& Mask, int X, int Y, int Reach) {
 
 }  // namespace
 
-int RimNeededOn(Color Ground) {
-    constexpr int Unneeded = 115;  // brightness of a ground, 0 to 255
-    constexpr int InFull = 150;
-    const int Brightness = (54 * RedOf(Ground) + 183 * GreenOf(Ground) + 19 * BlueOf(Ground)) / 256;
-    return std::clamp(255 * (Brightness - Unneeded) / (InFull - Unneeded), 0, 255);
-}
-
 void LayText(Bitmap& Target, const GlyphMask& Mask, int X, int Y, Color TextColor, int Rim) {
-    constexpr Color RimColor = RGB(16, 16, 24);
     const int FromX = std::max(0, X - Rim);
     const int FromY = std::max(0, Y - Rim);
     const int EndX = std::min(Target.Width, X + Mask.Width + Rim);

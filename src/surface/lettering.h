@@ -6,10 +6,6 @@
 
 namespace gloamtide {
 
-// How strongly light letters need a dark rim on this ground, 0 to 255: not at all on the blue of the sea or darker, in
-// full where the contrast of yellow falls below 3 : 1.
-int RimNeededOn(Color Ground);
-
 // Lays a text on a bitmap, the mask's top left at device pixel (X, Y), the ground kept where no letter is. Rim: device
 // pixels, how far a dark rim reaches round the letters where the ground is light; 0: none. Clipped.
 void LayText(Bitmap& Target, const GlyphMask& Mask, int X, int Y, Color TextColor, int Rim);

@@ -215,6 +215,8 @@ TEST_F(Surface, StretchingKeepsFlatColoursFlat) {
         for (int Y = 0; Y < std::min(H, 30); ++Y) {
             for (int X = 0; X < std::min(W, 40); ++X) ASSERT_EQ(S.Picture.Row(Y)[X], RGB(0, 119, 225));
         }
+        StretchBlt(S, 0, 0, W, H, O, 1, 1, 23, 19, Averaging::Light);
+        ASSERT_EQ(S.Picture.Row(3)[3], RGB(0, 119, 225));
     }
 }
 
@@ -224,6 +226,8 @@ TEST_F(Surface, ShrinkingWeighsByAreaAndEnlargingRunsEvenly) {
     StretchBlt(S, 0, 0, 16, 30, O, 0, 0, 40, 30);  // 2.5 columns become one
     EXPECT_EQ(S.Picture.Row(3)[0], RGB(80, 40, 20));
     EXPECT_EQ(S.Picture.Row(3)[1], 0U);
+    StretchBlt(S, 0, 0, 20, 30, O, 0, 0, 40, 30, Averaging::Light);  // half the light of 200, 100, 50 by IEC 61966-2-1
+    EXPECT_EQ(S.Picture.Row(3)[0], RGB(146, 71, 34));
     O.BackColor = 0;
     O.PSet(1, 0, RGB(100, 100, 100));
     StretchBlt(S, 0, 0, 8, 4, O, 0, 0, 2, 1);
