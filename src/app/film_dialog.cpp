@@ -1,12 +1,13 @@
 #include "app/film_dialog.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QDateTimeEdit>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -228,7 +229,7 @@ void FilmDialog::Save() {
     Bar->setValue(0);
     SetBusy(true);
     Told->setText(tr("Beginning..."));
-    Maker.start(QCoreApplication::applicationDirPath() + "/gloamtide-still", Arguments(Configuration));
+    Maker.start(QApplication::applicationDirPath() + "/gloamtide-still", Arguments(Configuration));
     if (!Maker.waitForStarted()) Finish(1, QProcess::CrashExit);
 }
 
@@ -277,6 +278,14 @@ void FilmDialog::reject() {
     Cancelled = true;
     Told->setText(tr("Cancelling..."));
     Maker.terminate();
+}
+
+void ShowFilmDialog() {
+    static QPointer<FilmDialog> Shown;
+    if (Shown == nullptr) Shown = new FilmDialog(QApplication::activeWindow());
+    Shown->show();
+    Shown->raise();
+    Shown->activateWindow();
 }
 
 }  // namespace gloamtide

@@ -58,4 +58,7 @@ private:
     bool Cancelled = false;
 };
 
+// Opens the dialog on the active window, or shows the one that is open.
+void ShowFilmDialog();
+
 }  // namespace gloamtide

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QIcon>
 #include <QPixmap>
-#include <QPointer>
 #include <QStandardPaths>
 #ifdef __GLIBC__
 #include <malloc.h>
@@ -47,13 +46,7 @@ int ShowProgram() {
     Desktop.KeepSettings(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
                          "/gloamtide/gloamtide.ini");
     Desktop.ChooseScreen(ProgramScreens(), QtHost::LargestWindow());
-    QPointer<FilmDialog> Film;
-    FormGTMain.MenuAnimationSubFilm.Click = [&] {
-        if (Film == nullptr) Film = new FilmDialog(Desktop.WindowOf(FormGTMain));
-        Film->show();
-        Film->raise();
-        Film->activateWindow();
-    };
+    FormGTMain.MenuAnimationSubFilm.Click = ShowFilmDialog;
     StartProgram();
     return Desktop.Run();
 }
