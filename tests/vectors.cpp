@@ -141,7 +141,9 @@ void VectorValues::ExpectInState() const {
     }
 }
 
-void VectorRow::Expect(const std::string& Name, double Result) const { ExpectClose(Name, Result, Out[Name]); }
+void VectorRow::Expect(std::initializer_list<std::pair<const char*, double>> Results) const {
+    for (const auto& [Name, Result] : Results) ExpectClose(Name, Result, Out[Name]);
+}
 
 std::vector<VectorRow> ReadVectors(const std::string& Table) {
     std::ifstream File(GLOAMTIDE_TEST_DATA "/data/" + Table + ".txt");

@@ -1,7 +1,5 @@
 #include "frame/file_commands.h"
 
-#include "storage/configuration.h"
-#include "storage/files.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {

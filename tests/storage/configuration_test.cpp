@@ -9,7 +9,6 @@
 #include <ctime>
 #include <random>
 
-#include "storage/files.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {
