@@ -158,7 +158,7 @@ TEST_F(Surface, NoArgumentHarms) {
             S.CurrentY = B;
             S.Print("noon");
             S.Scale(A, B, B, A);
-            ASSERT_TRUE(std::isnormal(S.ScaleWidth()) || Size == 0) << A << ", " << B;
+            ASSERT_TRUE(std::isnormal(S.ScaleX.Units) && std::isfinite(S.ScaleX.Origin)) << A << ", " << B;
         }
     }
     EXPECT_EQ(S.Point(0, 0), -1);
