@@ -156,14 +156,19 @@ void MenuConfigure_Click() {
 }
 
 void ComboCityName_Click() {
-    ConfigureForm& F = FormConfigure;
+    const ConfigureForm& F = FormConfigure;
     if (F.ComboCityName.ListIndex < 0) return;
     const auto Row = static_cast<std::size_t>(F.ComboCityName.ItemData(F.ComboCityName.ListIndex));
-    SelectNegative(F.OptionSetLat, state.CityLatitude[Row] < 0.0F);
-    SelectNegative(F.OptionSetLong, state.CityLongitude[Row] < 0.0F);
+    ShowPlaceInLists(state.CityLatitude[Row], state.CityLongitude[Row]);
+}
+
+void ShowPlaceInLists(float Latitude, float Longitude) {
+    ConfigureForm& F = FormConfigure;
+    SelectNegative(F.OptionSetLat, Latitude < 0.0F);
+    SelectNegative(F.OptionSetLong, Longitude < 0.0F);
     FillLatitudeDegrees();
-    ShowCoordinate(F.ComboSetLatDeg, F.ComboSetLatMin, state.CityLatitude[Row]);
-    ShowCoordinate(F.ComboSetLongDeg, F.ComboSetLongMin, state.CityLongitude[Row]);
+    ShowCoordinate(F.ComboSetLatDeg, F.ComboSetLatMin, Latitude);
+    ShowCoordinate(F.ComboSetLongDeg, F.ComboSetLongMin, Longitude);
 }
 
 void OptionSetLat_Click() {
@@ -188,14 +193,25 @@ void ComboSelDay_DropDown() {
     FormConfigure.ComboSelDay.ListIndex = 0;
 }
 
-void CmdConfigureOK_Click() {
-    ConfigureForm& F = FormConfigure;
-    state.ConfigSaved = False;
+void TakeListedPlace() {
+    const ConfigureForm& F = FormConfigure;
     state.LocationName = F.ComboCityName.Text;
     state.LocationLong = Single(ListedCoordinate(F.ComboSetLongDeg, F.ComboSetLongMin));
     if (F.OptionSetLong[1].Value) state.LocationLong *= -1.0F;
     state.LocationLat = ListedCoordinate(F.ComboSetLatDeg, F.ComboSetLatMin);
     if (F.OptionSetLat[1].Value) state.LocationLat *= -1.0;
+}
+
+void TakeListedZone() {
+    const auto Zone = static_cast<std::size_t>(FormConfigure.ComboSelTZ.ListIndex);
+    state.ZoneHours = state.ZoneHoursTable[Zone];
+    state.ZoneText = state.ZoneShortName[Zone];
+}
+
+void CmdConfigureOK_Click() {
+    ConfigureForm& F = FormConfigure;
+    state.ConfigSaved = False;
+    TakeListedPlace();
 
     if (F.OptionDateTime[0].Value) {
         TakeSystemTime();
@@ -207,9 +223,7 @@ void CmdConfigureOK_Click() {
         return;
     }
     state.DaylightHours = F.OptionDaylightSavings[1].Value ? 1 : 0;
-    const auto Zone = static_cast<std::size_t>(F.ComboSelTZ.ListIndex);
-    state.ZoneHours = state.ZoneHoursTable[Zone];
-    state.ZoneText = state.ZoneShortName[Zone];
+    TakeListedZone();
     SetInstant();
     RecomputeAlmanac();
     LeaveConfigure();

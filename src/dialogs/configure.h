@@ -23,6 +23,15 @@ void FillLatitudeDegrees();
 //   Sets:   ConfigureArmed
 void MenuConfigure_Click();
 
+// Shows a place, degrees, north and east positive, in the lists of degrees and minutes. Where ConfigureArmed is True a
+// change of them selects its zone.
+void ShowPlaceInLists(float Latitude, float Longitude);
+
+// The place and the zone that the dialog shows.
+//   Sets:  LocationName, LocationLat, LocationLong; ZoneHours, ZoneText
+void TakeListedPlace();
+void TakeListedZone();
+
 void FormConfigure_Form_Load();
 void ComboCityName_Click();
 void OptionSetLat_Click();
