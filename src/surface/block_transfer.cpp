@@ -205,12 +205,12 @@ template <class Averaged>
 void StretchRows(Bitmap& To, const Bitmap& From, const StretchAxis& Columns, const StretchAxis& Rows,
                  const Averaged& Value) {
     std::vector<WideRow> Stretched(static_cast<std::size_t>(From.Height));
-    std::size_t Passed = 0;  // the rows of the source that no further row needs
+    std::size_t Passed = 0;  // the rows of the source that no further row needs: they give their memory back
     for (std::size_t Row = 0; Row < Rows.Mixes.size(); ++Row) {
         const Mix& Vertical = Rows.Mixes[Row];
         if (Vertical.Weights.empty()) continue;
         while (Passed < static_cast<std::size_t>(Vertical.First))
-            Stretched[Passed++] = WideRow();  // gives its room back
+            Stretched[Passed++] = WideRow();
         WideRow Sums(3 * Columns.Mixes.size(), Averaged::Half << 16U);
         for (std::size_t Step = 0; Step < Vertical.Weights.size(); ++Step) {
             const std::size_t Needed = static_cast<std::size_t>(Vertical.First) + Step;

@@ -1,7 +1,5 @@
 #include "map/mouse_probe.h"
 
-#include <cmath>
-
 #include "map/geometry.h"
 #include "state/numbers.h"
 #include "tests/program_test.h"
