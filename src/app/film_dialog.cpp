@@ -34,7 +34,7 @@ constexpr const char* TimeFormat = "yyyy-MM-dd HH:mm:ss";
 
 // The instant that the program shows, or the present where that is in no year that a film can have.
 QDateTime ShownTime() {
-    const QDateTime Now = QDateTime::currentDateTimeUtc();
+    QDateTime Now = QDateTime::currentDateTimeUtc();
     if (!(state.CurrentJD > LowestJD && state.CurrentJD < HighestJD)) return Now;
     const DateTime Shown = ReadingOf(std::llround((state.CurrentJD + 0.5) * 86400.0));
     if (Shown.Year < FirstYear || Shown.Year >= LastYear) return Now;
@@ -85,20 +85,13 @@ FilmDialog::FilmDialog(QWidget* Parent) : QDialog(Parent) {
     setObjectName("FilmDialog");
     setWindowTitle(tr("Gloamtide - Save Film"));
     setAttribute(Qt::WA_DeleteOnClose);
-    auto* Rows = new QFormLayout;
-    AddTimes(*Rows);
-    AddPicture(*Rows);
-    auto* All = new QVBoxLayout(this);
-    All->addLayout(Rows);
-    Bar = new QProgressBar;
-    Bar->setAccessibleName(tr("Progress"));
-    Told = new QLabel;
-    Told->setObjectName("Told");
-    Told->setWordWrap(true);
-    Told->setMinimumWidth(360);
-    All->addWidget(Bar);
-    All->addWidget(Told);
-    AddButtons();
+    auto* Fields = new QFormLayout;
+    AddTimes(*Fields);
+    AddPicture(*Fields);
+    auto* Rows = new QVBoxLayout(this);
+    Rows->addLayout(Fields);
+    AddProgress(*Rows);
+    AddButtons(*Rows);
     connect(&Maker, &QProcess::readyReadStandardError, this, &FilmDialog::Follow);
     connect(&Maker, &QProcess::finished, this, &FilmDialog::Finish);
     SetBusy(false);
@@ -156,13 +149,23 @@ void FilmDialog::AddPicture(QFormLayout& Rows) {
     connect(Rate, &QSpinBox::valueChanged, this, &FilmDialog::TellCount);
 }
 
-void FilmDialog::AddButtons() {
+void FilmDialog::AddProgress(QVBoxLayout& Rows) {
+    Bar = new QProgressBar;
+    Bar->setAccessibleName(tr("Progress"));
+    Told = new QLabel;
+    Told->setWordWrap(true);
+    Told->setMinimumWidth(360);
+    Rows.addWidget(Bar);
+    Rows.addWidget(Told);
+}
+
+void FilmDialog::AddButtons(QVBoxLayout& Rows) {
     auto* Buttons = new QDialogButtonBox;
     SaveButton = Buttons->addButton(tr("&Save..."), QDialogButtonBox::AcceptRole);
     CancelButton = Buttons->addButton(QDialogButtonBox::Cancel);
     connect(SaveButton, &QPushButton::clicked, this, &FilmDialog::Save);
     connect(CancelButton, &QPushButton::clicked, this, &FilmDialog::reject);
-    layout()->addWidget(Buttons);
+    Rows.addWidget(Buttons);
 }
 
 std::int64_t FilmDialog::Count() const {

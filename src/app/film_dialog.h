@@ -13,6 +13,7 @@ class QLabel;
 class QProgressBar;
 class QPushButton;
 class QSpinBox;
+class QVBoxLayout;
 
 namespace gloamtide {
 
@@ -28,28 +29,29 @@ public:
 private:
     void AddTimes(QFormLayout& Rows);
     void AddPicture(QFormLayout& Rows);
-    void AddButtons();
+    void AddProgress(QVBoxLayout& Rows);
+    void AddButtons(QVBoxLayout& Rows);
     std::int64_t Count() const;  // of pictures; 0 where the end is before the start
     void TellCount();
     void Save();
-    QStringList Arguments(const QString& Path) const;
+    QStringList Arguments(const QString& Configuration) const;
     void Follow();  // how far the film is
     void Finish(int ExitCode, QProcess::ExitStatus Status);
     void SetBusy(bool Busy);
 
-    QDateTimeEdit* From;
-    QDateTimeEdit* To;
-    QSpinBox* StepNumber;
-    QComboBox* StepUnit;
-    QSpinBox* Width;
-    QSpinBox* Height;
-    QCheckBox* OnlyMap;
-    QSpinBox* Rate;
-    QComboBox* Format;
-    QProgressBar* Bar;
-    QLabel* Told;
-    QPushButton* SaveButton;
-    QPushButton* CancelButton;
+    QDateTimeEdit* From = nullptr;
+    QDateTimeEdit* To = nullptr;
+    QSpinBox* StepNumber = nullptr;
+    QComboBox* StepUnit = nullptr;
+    QSpinBox* Width = nullptr;
+    QSpinBox* Height = nullptr;
+    QCheckBox* OnlyMap = nullptr;
+    QSpinBox* Rate = nullptr;
+    QComboBox* Format = nullptr;
+    QProgressBar* Bar = nullptr;
+    QLabel* Told = nullptr;
+    QPushButton* SaveButton = nullptr;
+    QPushButton* CancelButton = nullptr;
 
     QTemporaryDir Folder;  // of the configuration that gloamtide-still shows
     QProcess Maker;
