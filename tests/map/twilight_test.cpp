@@ -106,6 +106,15 @@ TEST_F(Twilight, LinesAreWhereTheAltitudesAreAndCrossTheSeamWhole) {
     }
 }
 
+TEST_F(Twilight, WithoutASunItIsNight) {
+    extras.TwilightShown = extras.TwilightLinesShown = True;
+    const double NoNumber = std::nan("");
+    for (const auto& [Declination, Shift] : {std::pair(NoNumber, NoNumber), {10.0, 1e30}, {NoNumber, 0.0}}) {
+        const Bitmap& Map = Drawn(1.0, RGB(255, 255, 255), Declination, Shift);
+        EXPECT_EQ(std::count(Map.Pixels.begin(), Map.Pixels.end(), 0U), std::ssize(Map.Pixels)) << Declination;
+    }
+}
+
 TEST_F(Twilight, TheAltitudeIsThatOfAnAlmanac) {
     Desktop.ScreenWidth = 1280;
     MeasureScreen();
