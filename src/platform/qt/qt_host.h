@@ -75,7 +75,6 @@ private:
     FormWindow* MainWindow = nullptr;  // the one with menus
     std::unique_ptr<QSettings> Settings;
     int ChosenWidth = 0;            // of the screen that the program sees, pixels; 0: the desktop's
-    int LowestLetters = 1;          // pixels
     std::unique_ptr<QWidget> Help;  // once it was asked for
     bool Ended = false;
 };
