@@ -37,7 +37,7 @@ struct Parallel {
 double RowLatitude(double Row, int Rows) { return 80.0 - (Row + 0.5) * 150.0 / Rows; }
 
 // The column where the true Sun stands overhead, a fraction of Columns.
-double NoonColumn(int Columns) { return (0.5 - state.EquationOfTimeMapShift / state.MapWidth) * Columns; }
+double NoonColumn(int Columns) { return (0.5 - double{state.EquationOfTimeMapShift} / state.MapWidth) * Columns; }
 
 // The instant of a file made by hand can be one that has no Sun.
 bool SunIsKnown() {

@@ -209,8 +209,7 @@ void StretchRows(Bitmap& To, const Bitmap& From, const StretchAxis& Columns, con
     for (std::size_t Row = 0; Row < Rows.Mixes.size(); ++Row) {
         const Mix& Vertical = Rows.Mixes[Row];
         if (Vertical.Weights.empty()) continue;
-        while (Passed < static_cast<std::size_t>(Vertical.First))
-            Stretched[Passed++] = WideRow();
+        while (Passed < static_cast<std::size_t>(Vertical.First)) Stretched[Passed++] = WideRow();
         WideRow Sums(3 * Columns.Mixes.size(), Averaged::Half << 16U);
         for (std::size_t Step = 0; Step < Vertical.Weights.size(); ++Step) {
             const std::size_t Needed = static_cast<std::size_t>(Vertical.First) + Step;
