@@ -51,6 +51,8 @@ struct MainForm : Form {
     Menu MenuAnimationSubStart{MenuAnimation, "MenuAnimationSubStart", "&Start"};
     Menu MenuAnimationSubStartSep{MenuAnimation, "MenuAnimationSubStartSep"};
     Menu MenuAnimationSubStop{MenuAnimation, "MenuAnimationSubStop", "Sto&p"};
+    Menu MenuAnimationSubFilmSep{MenuAnimation, "MenuAnimationSubFilmSep"};
+    Menu MenuAnimationSubFilm{MenuAnimation, "MenuAnimationSubFilm", "Save &Film..."};
     Menu MenuHelp{*this, "MenuHelp", "&Help"};
     Menu MenuHelpSubContents{MenuHelp, "MenuHelpSubContents", "Contents"};
     Menu MenuHelpSubContentsSep{MenuHelp, "MenuHelpSubContentsSep"};
