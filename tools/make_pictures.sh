@@ -6,18 +6,10 @@ set -euo pipefail
 Root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 Build=$(cd "${1:-$Root/build}" && pwd)
 Images=$Root/docs/images
-for Tool in Xvfb openbox xdotool import convert compare python3; do
-    command -v "$Tool" >/dev/null || { echo "needs $Tool" >&2; exit 1; }
+source "$Root/scripts/virtual_desktop.sh"
+for Tool in import convert compare python3; do
+    command -v "$Tool" >/dev/null || Fail "needs $Tool"
 done
-
-Scratch=$(mktemp -d)
-Jobs=()
-CleanUp() {
-    kill "${Jobs[@]}" 2>/dev/null || true
-    wait
-    rm -rf "$Scratch"
-}
-trap CleanUp EXIT
 
 # $1: the file; $2: seconds from the present to what is shown; $3: 0 for the natural map, 1 for the political one;
 # the rest: what is shown over it, and "summer" for daylight-saving time. The place is Cleveland.
@@ -65,16 +57,6 @@ Keep() {
     echo "$2"
 }
 
-# $1: a command that shall succeed soon; the rest: its arguments
-Await() {
-    local Deadline=$((SECONDS + 30))
-    until "$@"; do
-        ((SECONDS < Deadline)) || { echo "in vain: $*" >&2; exit 1; }
-        sleep 0.1
-    done
-}
-
-IsActive() { [[ $(xdotool getactivewindow getwindowname 2>/dev/null) == "$1" ]]; }
 Shoot() { import -window "$(xdotool getactivewindow)" "$1"; }
 Alike() { compare -metric AE "$1" "$2" null: >/dev/null 2>&1; }
 
@@ -88,14 +70,14 @@ IsPainted() {
 
 # The bars over the map are not where they were at the start: an animation has taken a step.
 HasStepped() {
-    local Bars='[1180x24+94+24]'
+    local Bars="[1180x24+94+$((24 + Above))]"
     IsPainted && ! Alike "$Scratch/shot.png$Bars" "$Scratch/start.png$Bars"
 }
 
 # $1: the window's title; the rest: as for Keep
 Picture() {
-    Await IsActive "$1"
-    Await IsPainted
+    AwaitWindow "$1"
+    Await IsPainted 'not painted'
     Keep "$Scratch/shot.png" "${@:2}"
 }
 
@@ -103,18 +85,7 @@ Dialog() { Picture "$1" "$2" -bordercolor black -border 1 -trim +repage -border 
 
 Back() {
     xdotool key Escape
-    Await IsActive "$Main"
-}
-
-StartDisplay() {
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$Scratch/display" 2>/dev/null &
-    Jobs+=($!)
-    Await test -s "$Scratch/display"
-    DISPLAY=:$(cat "$Scratch/display")
-    export DISPLAY
-    openbox --sm-disable >/dev/null 2>&1 &
-    Jobs+=($!)
-    Await xdotool get_num_desktops >/dev/null 2>&1
+    AwaitWindow "$Main"
 }
 
 # The program, in a home and with settings of its own.
@@ -125,7 +96,7 @@ StartProgram() {
     (cd "$Scratch" && exec env -i HOME="$Scratch" PATH="$PATH" DISPLAY="$DISPLAY" LC_ALL=C.UTF-8 TZ=UTC \
         XDG_RUNTIME_DIR="$Scratch" QT_QPA_PLATFORM=xcb "$Build/gloamtide") &
     Jobs+=($!)
-    Await IsActive "$Main"
+    AwaitWindow "$Main"
 }
 
 Main='Gloamtide (home.gtf)'
@@ -137,17 +108,19 @@ Still class-1.png 2026-09-23T16:00:30Z 800 1 summer sun grid analemma
 Still class-2.png 2026-07-09T14:00:30Z 1024 0 summer sun moon cities sundial
 Still class-3.png 2026-03-20T16:20:20Z 1280 1 summer sun moon zones sundial longitude equation
 
-StartDisplay
+StartDisplay 1280x1024
 StartProgram
+eval "$(xdotool getactivewindow getwindowgeometry --shell | grep '^HEIGHT=')"
+Above=$(((HEIGHT - 22 - 878) / 2))  # pixels between menu bar and board
 xdotool key alt+c
-Await IsActive 'Gloamtide - Configure'
+AwaitWindow 'Gloamtide - Configure'
 xdotool key Tab Tab Tab Tab Tab Tab Tab Down  # to a new date
 Dialog 'Gloamtide - Configure' configure.png
 Back
 xdotool key alt+a Return
 Dialog 'Gloamtide - Configure Animation' animation-settings.png
 Back
-xdotool mousemove --window "$(xdotool getactivewindow)" 119 686 click 1  # the sundial's button
+xdotool mousemove --window "$(xdotool getactivewindow)" 119 $((686 + Above)) click 1  # the sundial's button
 Dialog 'Sundial Options' sundial-options.png
 Back
 xdotool key alt+h a
@@ -156,8 +129,8 @@ Back
 xdotool key alt+h Return
 Picture 'Gloamtide Help' help.png
 Back
-Await IsPainted
+Await IsPainted 'not painted'
 mv "$Scratch/shot.png" "$Scratch/start.png"
 xdotool key alt+a Down Return
-Await HasStepped
+Await HasStepped 'no step'
 Keep "$Scratch/shot.png" animation.png
