@@ -66,6 +66,75 @@ TEST_F(Animation, YearsAreCountedOnTheClockOfTheLocation) {
     }
 }
 
+TEST_F(Animation, KeysStepAndTheClockRunsOn) {
+    Desktop.System = {2024, 3, 5, 1, 12, 34, 56, 0};  // March 1
+    F.Keys.at("Home")();
+    const std::tuple<const char*, double, const char*> Steps[] = {{"Right", 1.0 / 24.0, "1 hour in the future"},
+                                                                  {"Left", -1.0 / 24.0, ""},
+                                                                  {"Shift+Left", -1.0, "1 day in the past"},
+                                                                  {"Left", -1.0 / 24.0, "1 day 1 hour in the past"},
+                                                                  {"Ctrl+Left", -30.0, "31 days 1 hour in the past"},
+                                                                  {"Ctrl+Right", 30.0, "1 day 1 hour in the past"},
+                                                                  {"Shift+Right", 1.0, "1 hour in the past"},
+                                                                  {"Right", 1.0 / 24.0, ""},
+                                                                  {"PgUp", -366.0, "1 year in the past"},
+                                                                  {"PgUp", -365.0, "2 years in the past"},
+                                                                  {"Shift+Left", -1.0, "2 years 2 days in the past"},
+                                                                  {"Shift+Right", 1.0, "2 years in the past"},
+                                                                  {"PgDown", 365.0, "1 year in the past"},
+                                                                  {"PgDown", 366.0, ""}};
+    for (const auto& [Key, Days, Difference] : Steps) {
+        const double Before = state.CurrentJD;
+        F.Keys.at(Key)();
+        EXPECT_NEAR(state.CurrentJD - Before, Days, 2.0 / 86400.0) << Key;
+        EXPECT_EQ(F.ButtonNow.Visible ? F.ButtonNow.ToolTipText.Get() : "", Difference) << Key;
+    }
+    EXPECT_EQ(Desktop.Beeps, 0);
+    F.Keys.at("Space")();
+    F.Keys.at("PgDown")();
+    EXPECT_EQ(std::tuple(state.AnimStepDays, state.AnimStepYears), std::tuple(1.0 / 24.0, 0.0)) << "its own step stays";
+    EXPECT_TRUE(F.Timer3.Enabled && !F.Timer1.Enabled);
+    F.Keys.at("Space")();
+    EXPECT_TRUE(F.Timer1.Enabled && !F.Timer3.Enabled && !LabelsShown());
+}
+
+TEST_F(Animation, AKeyStopsAtTheLimitsAndLeadsBack) {
+    for (const auto& [Limit, Beyond, Back] : {std::tuple(HighestJD, "PgDown", "Left"), {LowestJD, "PgUp", "Right"}}) {
+        state.CurrentJD = Limit + (Limit == HighestJD ? -1.0 : 1.0);
+        F.Keys.at(Beyond)();
+        EXPECT_EQ(std::tuple(state.CurrentJD, F.Timer1.Enabled.Get(), Desktop.Messages.size()),
+                  std::tuple(Limit, false, 1U));
+        Desktop.Messages.clear();
+        F.Keys.at(Back)();
+        EXPECT_TRUE(F.Timer1.Enabled && Desktop.Messages.empty());
+    }
+}
+
+TEST_F(Animation, NowLeadsBackFromAnywhere) {
+    Desktop.Advance(60000);
+    F.Keys.at("Home")();
+    const std::vector<Color> Present = F.PictureGT.Picture.Pixels;
+    const DateTime Time = Desktop.System;
+    const std::string Sunrise = F.LabelLocSunriseShow[0].Caption;
+    for (const double Offset : {-90.0, 1e9, -1e300}) {
+        for (const Event* Now : {&F.MenuAnimationSubNow.Click, &F.ButtonNow.Click}) {
+            state.OffsetDays = Offset;
+            F.MenuAnimationSubStart.Click();
+            Desktop.Advance(2000);
+            EXPECT_TRUE(F.ButtonNow.Visible);
+            Desktop.Messages.clear();
+            state.ConfigSaved = True;
+            Desktop.System = Time;
+            (*Now)();
+            EXPECT_EQ(std::tuple(state.OffsetDays, state.CurrentJD, state.ConfigSaved),
+                      std::tuple(0.0, state.SystemJD, False));
+            EXPECT_TRUE(F.Timer1.Enabled && !F.Timer3.Enabled && !LabelsShown() && !F.ButtonNow.Visible);
+            EXPECT_EQ(F.LabelLocSunriseShow[0].Caption, Sunrise);
+        }
+    }
+    EXPECT_EQ(F.PictureGT.Picture.Pixels, Present);
+}
+
 struct LongRun {
     const char* Name;
     float Years, Days;

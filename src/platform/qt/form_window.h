@@ -1,6 +1,7 @@
 // The window of a form.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QTimer>
 #include <functional>
@@ -49,6 +50,9 @@ private:
     void FitBoard();
     void SharpenPictures();
 
+    // Whether the form has a use for the key.
+    bool PressKeyOfForm(const QKeyEvent& Event);
+
     // In full screen the menu bar lies over the board's upper edge, and only while it is asked for.
     void ArrangeMenuBar();
     void UncoverMenuBar();
@@ -61,8 +65,9 @@ private:
     QWidget* UpperEdge;  // where the pointer asks for the menu bar
     std::optional<double> FixedScale;
     QSize Expected;
-    QTimer Rest;       // until the window's size counts as settled
-    QTimer Uncovered;  // while the menu bar shows in full screen
+    QElapsedTimer SinceKey;  // of the form's, since it was done
+    QTimer Rest;             // until the window's size counts as settled
+    QTimer Uncovered;        // while the menu bar shows in full screen
     Watchers Watching;
 };
 
