@@ -40,6 +40,13 @@ void ShowCoordinate(ComboBox& Degrees, ComboBox& Minutes, float Coordinate) {
     Minutes.ListIndex = ToInt16(std::floor((Magnitude + 0.005 - Whole) * 60.0));
 }
 
+// Shows a coordinate to the nearest minute, or the last one that the lists hold.
+void SelectMinutes(ComboBox& Degrees, ComboBox& Minutes, double Coordinate) {
+    const int Nearest = std::min<int>(ToInt16(std::abs(Coordinate) * 60.0), Degrees.ListCount() * 60 - 1);
+    Degrees.ListIndex = Nearest / 60;
+    Minutes.ListIndex = Nearest % 60;
+}
+
 double ListedCoordinate(const ComboBox& Degrees, const ComboBox& Minutes) {
     return Minutes.ListIndex / 60.0 + Degrees.ListIndex;
 }
@@ -48,6 +55,21 @@ bool YearInRange(const std::string& Text) {
     const double Year = LeadingNumber(Text);
     if (Year == 0.0) return Text == "0";
     return Year >= -4000.0 && Year <= 4000.0;
+}
+
+void TakePlace() {
+    const ConfigureForm& F = FormConfigure;
+    state.LocationName = F.ComboCityName.Text;
+    state.LocationLong = Single(ListedCoordinate(F.ComboSetLongDeg, F.ComboSetLongMin));
+    if (F.OptionSetLong[1].Value) state.LocationLong *= -1.0F;
+    state.LocationLat = ListedCoordinate(F.ComboSetLatDeg, F.ComboSetLatMin);
+    if (F.OptionSetLat[1].Value) state.LocationLat *= -1.0;
+}
+
+void TakeZone() {
+    const auto Zone = static_cast<std::size_t>(FormConfigure.ComboSelTZ.ListIndex);
+    state.ZoneHours = state.ZoneHoursTable[Zone];
+    state.ZoneText = state.ZoneShortName[Zone];
 }
 
 void TakeSystemTime() {
@@ -130,6 +152,12 @@ void FormConfigure_Form_Load() {
 }
 
 void MenuConfigure_Click() {
+    ShowConfigurationInForce();
+    FormConfigure.Show();
+    FormGTMain.Hide();
+}
+
+void ShowConfigurationInForce() {
     ConfigureForm& F = FormConfigure;
     F.ComboCityName.Type(state.LocationName);
     state.ConfigureArmed = False;
@@ -151,8 +179,23 @@ void MenuConfigure_Click() {
     SelectNearest(F.ComboSelMinute, ToInt16(state.LocalMinute));
     if (state.DaylightHours == 0) F.OptionDaylightSavings[0].Value = true;
     if (state.DaylightHours == 1) F.OptionDaylightSavings[1].Value = true;
-    F.Show();
-    FormGTMain.Hide();
+}
+
+void PickCity(std::size_t Row) {
+    ComboBox& Names = FormConfigure.ComboCityName;
+    for (int Position = 0; Position < Names.ListCount(); ++Position) {
+        if (Names.ItemData(Position) == static_cast<int>(Row)) return Names.Pick(Position);
+    }
+}
+
+void PickPlace(const std::string& Name, double Latitude, double Longitude) {
+    ConfigureForm& F = FormConfigure;
+    F.ComboCityName.Type(Name);
+    SelectNegative(F.OptionSetLat, Latitude < 0.0);
+    SelectNegative(F.OptionSetLong, Longitude < 0.0);
+    FillLatitudeDegrees();
+    SelectMinutes(F.ComboSetLatDeg, F.ComboSetLatMin, Latitude);
+    SelectMinutes(F.ComboSetLongDeg, F.ComboSetLongMin, Longitude);
 }
 
 void ComboCityName_Click() {
@@ -188,28 +231,26 @@ void ComboSelDay_DropDown() {
     FormConfigure.ComboSelDay.ListIndex = 0;
 }
 
-void CmdConfigureOK_Click() {
-    ConfigureForm& F = FormConfigure;
-    state.ConfigSaved = False;
-    state.LocationName = F.ComboCityName.Text;
-    state.LocationLong = Single(ListedCoordinate(F.ComboSetLongDeg, F.ComboSetLongMin));
-    if (F.OptionSetLong[1].Value) state.LocationLong *= -1.0F;
-    state.LocationLat = ListedCoordinate(F.ComboSetLatDeg, F.ComboSetLatMin);
-    if (F.OptionSetLat[1].Value) state.LocationLat *= -1.0;
+void TakeLocation() {
+    TakePlace();
+    TakeZone();
+}
 
+void CmdConfigureOK_Click() {
+    const ConfigureForm& F = FormConfigure;
+    state.ConfigSaved = False;
+    TakePlace();
     if (F.OptionDateTime[0].Value) {
         TakeSystemTime();
     } else if (YearInRange(F.TextSelYear.Text)) {
         TakeNewTime();
     } else {
         ShowAfterTwoBeeps({"Input Out Of Range", "Year must be from -4000 through +4000: Please re-enter."});
-        host->SetFocus(F.TextSelYear);
+        host->SetFocus(FormConfigure.TextSelYear);
         return;
     }
     state.DaylightHours = F.OptionDaylightSavings[1].Value ? 1 : 0;
-    const auto Zone = static_cast<std::size_t>(F.ComboSelTZ.ListIndex);
-    state.ZoneHours = state.ZoneHoursTable[Zone];
-    state.ZoneText = state.ZoneShortName[Zone];
+    TakeZone();
     SetInstant();
     RecomputeAlmanac();
     LeaveConfigure();

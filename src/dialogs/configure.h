@@ -4,6 +4,9 @@
 // set in the lists of degrees and minutes; each change of them selects the zone of the place.
 #pragma once
 
+#include <cstddef>
+#include <string>
+
 namespace gloamtide {
 
 // Joins the dialog's controls with their handlers, and the menu item that opens it.
@@ -22,6 +25,20 @@ void FillLatitudeDegrees();
 //           DaylightHours
 //   Sets:   ConfigureArmed
 void MenuConfigure_Click();
+
+// What it does before it opens the dialog.
+void ShowConfigurationInForce();
+
+// Picks a city by its row in the table, as the user does in the list of names.
+void PickCity(std::size_t Row);
+
+// Sets name and place. A latitude beyond the map becomes the last one on it.
+//   Latitude, Longitude: degrees, north and east positive; taken to the nearest minute
+void PickPlace(const std::string& Name, double Latitude, double Longitude);
+
+// Takes name, place and zone over from the dialog's controls.
+//   Sets:  LocationName, LocationLat, LocationLong, ZoneHours, ZoneText
+void TakeLocation();
 
 void FormConfigure_Form_Load();
 void ComboCityName_Click();
