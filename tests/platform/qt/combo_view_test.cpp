@@ -13,9 +13,19 @@ protected:
         EXPECT_EQ(std::tuple(Shown.currentIndex(), Shown.currentText()), std::tuple(Entry, Text));
     }
 
+    // Types a text, which may have letters that no key has, in place of the one that is there.
+    void Enter(const QString& Text) {
+        Names.setFocus();
+        Typed.selectAll();
+        QInputMethodEvent Event;
+        Event.setCommitString(Text);
+        QCoreApplication::sendEvent(&Typed, &Event);
+    }
+
     QComboBox& Names = Find<QComboBox>(Demo.Names);
     QComboBox& Zones = Find<QComboBox>(Demo.Zones);
     QLineEdit& Typed = *Names.lineEdit();
+    QAbstractItemView& Offered = *Names.completer()->popup();
 };
 
 TEST_F(Combo, TheListIsTheRecordsWhenItIsSeen) {
@@ -52,21 +62,77 @@ TEST_F(Combo, TheListIsFilledBeforeItOpensAndHasTheKeys) {
     EXPECT_EQ(Heard, "Zones ") << "neither OK nor Cancel";
 }
 
-TEST_F(Combo, ATypedTextPicksNothingEvenIfItIsAnEntry) {
+TEST_F(Combo, ATextOfOnesOwnStaysOneAndAnEntryIsPickedByItsName) {
+    const auto Type = [&](const QString& Text) {
+        Enter(Text);
+        QTest::keyClick(Offered.isVisible() ? &Offered : static_cast<QWidget*>(&Typed), Qt::Key_Tab);
+        EXPECT_FALSE(Typed.hasFocus());
+    };
+    for (const char* Own : {"Rom", "Romeo", "Oslo, Norway"}) {
+        Type(Own);
+        ExpectPicked(Demo.Names, Names, -1, Own);
+    }
+    EXPECT_EQ(Heard, "");
+    for (const char* Name : {"Rome", "rOmE ", "R\u00F2me"}) {
+        Type(Name);
+        ExpectPicked(Demo.Names, Names, 2, "Rome");
+        EXPECT_EQ(std::exchange(Heard, ""), "Names ") << Name;
+    }
+    Demo.Names.Type("Athens");  // the program's own text
     Names.setFocus();
-    QTest::keyClicks(&Typed, "Rom");
-    EXPECT_EQ(Typed.text(), "Rom") << "nothing is completed";
-    QTest::keyClicks(&Typed, "e");
-    QTest::keyClick(&Typed, Qt::Key_Return);
     Find<QLineEdit>(Demo.Year).setFocus();
-    ExpectPicked(Demo.Names, Names, -1, "Rome");
-    EXPECT_EQ(Heard, "OK ");
-    EXPECT_EQ(Names.count(), 3) << "nothing is added either";
+    ExpectPicked(Demo.Names, Names, -1, "Athens");
+    EXPECT_EQ(Names.count(), 3) << "nothing is added";
     for (const auto& [Cursor, Result] : {std::pair(2, "Osxylo"), {4, "Osloxy"}}) {
         Demo.Names.ListIndex = 1;
+        Names.setFocus();
         Typed.setCursorPosition(Cursor);
         QTest::keyClicks(&Typed, "xy");
         ExpectPicked(Demo.Names, Names, -1, Result);
+    }
+}
+
+TEST_F(Combo, EntriesThatFitAreOfferedWhileOneTypes) {
+    for (const char* Entry : {"New York, USA", "S\u00E3o Tom\u00E9", "St John's"}) Demo.Names.AddItem(Entry);
+    const std::pair<const char*, const char*> Rows[] = {{"york", "New York, USA"},
+                                                        {"new y", "New York, USA"},
+                                                        {"o", "Oslo"},
+                                                        {"R", "Rome"},
+                                                        {"usa", "New York, USA"},
+                                                        {"SAO t", "S\u00E3o Tom\u00E9"},
+                                                        {"ork", ""},
+                                                        {"s", "St John's|S\u00E3o Tom\u00E9"}};
+    for (const auto& [Text, Expected] : Rows) {
+        Enter(Text);
+        QStringList Entries;
+        for (int Row = 0; Offered.isVisible() && Row < Offered.model()->rowCount(); ++Row) {
+            Entries.append(Offered.model()->index(Row, 0).data().toString());
+        }
+        EXPECT_EQ(Entries.join('|'), Expected) << Text;
+        EXPECT_EQ(Demo.Names.Text, Text) << "nothing is put in";
+        if (Offered.isVisible()) Offered.hide();
+    }
+    QTest::keyClicks(&Typed, "a");
+    EXPECT_EQ(Demo.Names.Text, "sa");
+    QTest::keyClick(&Offered, Qt::Key_Down);
+    QTest::keyClick(&Offered, Qt::Key_Return);
+    ExpectPicked(Demo.Names, Names, Demo.Names.ListIndex, "S\u00E3o Tom\u00E9");
+    EXPECT_EQ(Heard, "Names ") << "once, and not OK";
+}
+
+TEST_F(Combo, TypedDigitsSelectTheirNumber) {
+    for (int Number = 0; Number < 70; ++Number) Demo.Zones.AddItem((Number < 10 ? " 0" : " ") + std::to_string(Number));
+    const std::pair<const char*, const char*> Rows[] = {{"52", " 52"},  {"055", " 55"}, {"71", " 01"},
+                                                        {"666", " 06"}, {"00", " 00"},  {"9", " 09"}};
+    for (const auto& [Keys, Entry] : Rows) {
+        for (const bool Open : {false, true}) {
+            Demo.Zones.ListIndex = 1;
+            if (Open) Zones.showPopup();
+            QTest::keyClicks(Open ? static_cast<QWidget*>(Zones.view()) : &Zones, Keys);
+            if (Open) QTest::keyClick(Zones.view(), Qt::Key_Return);
+            EXPECT_EQ(Demo.Zones.Text, Entry) << Keys << Open;
+            QTest::keyClick(&Zones, Qt::Key_Home);  // the number ends
+        }
     }
 }
 
