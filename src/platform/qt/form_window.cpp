@@ -215,8 +215,9 @@ bool FormWindow::PressKeyOfForm(const QKeyEvent& Event) {
     const auto Found = Record.Keys.find(Key.toString(QKeySequence::PortableText).toStdString());
     if (Found == Record.Keys.end()) return false;
     // Held down, a key repeats itself, maybe faster than it can be followed: what comes at once had been waiting.
-    const bool Waited = Event.isAutoRepeat() && SinceKey.isValid() && !SinceKey.hasExpired(2);
-    if (!Waited) Found->second();
+    const bool Waited = SinceKey.isValid() && !SinceKey.hasExpired(2);
+    const bool Switch = Event.key() == Qt::Key_Space;
+    if (!Event.isAutoRepeat() || !(Waited || Switch)) Found->second();
     SinceKey.start();
     return true;
 }
