@@ -1,13 +1,8 @@
 // Times what has to be fast and prints one table: each time, and its ratio to a baseline of the same run.
 
-#include <benchmark/benchmark.h>
-
-#include <cstdio>
-#include <map>
-#include <string>
-
 #include "bench/processes.h"
 #include "bench/program.h"
+#include "bench/table.h"
 #include "frame/startup.h"
 #include "platform/headless/headless_host.h"
 #include "state/state.h"
@@ -22,40 +17,16 @@ void StartOnce() {
     StartProgram();
 }
 
-void SetOverlays(Boolean Shown) {
-    state.ShowSun = state.ShowMoon = state.ShowAnalemma = Shown;
-    state.ShowCities = state.ShowTimezones = state.ShowMapGrid = Shown;
-    state.ShowSundial = Shown;
-}
-
 }  // namespace gloamtide
 
 namespace {
-
-// Keeps the median of each benchmark's repetitions, in microseconds of processor time.
-class Medians : public benchmark::BenchmarkReporter {
-public:
-    bool ReportContext(const Context&) override { return true; }
-    void ReportRuns(const std::vector<Run>& Reports) override {
-        for (const Run& Each : Reports) {
-            if (Each.aggregate_name == "median") Times[Each.run_name.function_name] = Each.GetAdjustedCPUTime();
-        }
-    }
-
-    std::map<std::string, double> Times;
-};
-
-struct Line {
-    const char* Name;
-    const char* Baseline;
-};
 
 constexpr const char* FourCopies = "four memcpy of a map";
 constexpr const char* FourCopies2 = "four memcpy of a map, density 2";
 constexpr const char* FourCopies3 = "four memcpy of a map, density 3";
 constexpr const char* PlainRead = "a plain read of as many bytes";
 constexpr const char* PlainWrite = "a plain write, flush and rename";
-constexpr Line Lines[] = {
+constexpr gloamtide::TableLine Lines[] = {
     {"RedrawMap, no overlay", FourCopies},
     {"RedrawMap, all overlays", FourCopies},
     {"RedrawMap, all overlays, density 2", FourCopies2},
@@ -72,24 +43,7 @@ constexpr Line Lines[] = {
 }  // namespace
 
 int main(int Count, char** Arguments) {
-    std::vector<char*> All(Arguments, Arguments + Count);
-    std::string Repeat = "--benchmark_repetitions=9";
-    std::string Shuffle = "--benchmark_enable_random_interleaving=true";
-    std::string Briefly = "--benchmark_min_time=0.1";
-    All.insert(All.begin() + 1, {Repeat.data(), Shuffle.data(), Briefly.data()});
-    int Total = static_cast<int>(All.size());
-    benchmark::Initialize(&Total, All.data());
-    if (benchmark::ReportUnrecognizedArguments(Total, All.data())) return 2;
-    Medians Measured;
-    benchmark::RunSpecifiedBenchmarks(&Measured);
-
-    const auto& Times = Measured.Times;
-    std::printf("| What | Median | Beside | Median | Ratio |\n|---|---:|---|---:|---:|\n");
-    for (const auto& [Name, Baseline] : Lines) {
-        if (!Times.contains(Name) || !Times.contains(Baseline)) continue;
-        std::printf("| %s | %.1f us | %s | %.1f us | %.3g |\n", Name, Times.at(Name), Baseline, Times.at(Baseline),
-                    Times.at(Name) / Times.at(Baseline));
-    }
-    gloamtide::PrintProcesses();
-    return 0;
+    const int Status = gloamtide::PrintTable(Count, Arguments, Lines);
+    if (Status == 0) gloamtide::PrintProcesses();
+    return Status;
 }

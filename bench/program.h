@@ -9,6 +9,10 @@ void StartOnce();
 
 // Shows or hides all that can be shown on the map: Sun, Moon, analemma, cities, time zones with the hour ruler, grid,
 // sundial.
-void SetOverlays(Boolean Shown);
+inline void SetOverlays(Boolean Shown) {
+    state.ShowSun = state.ShowMoon = state.ShowAnalemma = Shown;
+    state.ShowCities = state.ShowTimezones = state.ShowMapGrid = Shown;
+    state.ShowSundial = Shown;
+}
 
 }  // namespace gloamtide

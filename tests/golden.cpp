@@ -129,11 +129,9 @@ void Lay(Bitmap& On, const Bitmap& Piece, int Left, int Top) {
 }
 
 Bitmap Painted(const PictureBox& Box) {
-    Bitmap Inner = Box.Picture;
-    if (Inner.Empty()) {
-        Inner = {static_cast<int>(std::lround(Box.InnerWidth())), static_cast<int>(std::lround(Box.InnerHeight())),
-                 Box.BackColor};
-    }
+    Bitmap Inner(static_cast<int>(std::lround(Box.InnerWidth())), static_cast<int>(std::lround(Box.InnerHeight())),
+                 Box.BackColor);
+    Lay(Inner, Box.Picture, 0, 0);
     for (const Control* Each : Box.Children) {
         if (!Each->Visible) continue;
         Lay(Inner, PaintedControl(*Each), static_cast<int>(std::lround(Each->Left.Pixels())),

@@ -4,6 +4,9 @@
 #include <QIcon>
 #include <QPixmap>
 #include <QStandardPaths>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 #include "app/command_line.h"
 #include "app/screens.h"
@@ -20,6 +23,13 @@ constexpr const char* Help =
     "Shows the Earth in the light of the Sun, with an almanac and a sundial. Its help is in its Help menu.\n"
     "\n"
     "  --help, --version  print this help, or the version, and end\n";
+
+// Pictures give their memory back to the desktop when they go, however large the largest was.
+void KeepMemorySmall() {
+#ifdef __GLIBC__
+    mallopt(M_MMAP_THRESHOLD, 1 << 18);
+#endif
+}
 
 int ShowProgram() {
     const AssetBytes Icon = IconPng();
@@ -50,6 +60,7 @@ int main(int Count, char** Arguments) {
         SayError("gloamtide", Error.what());
         return 2;
     }
+    KeepMemorySmall();
     int OnlyName = 1;  // what else there was is answered
     QApplication Application(OnlyName, Arguments);
     QApplication::setApplicationName("Gloamtide");

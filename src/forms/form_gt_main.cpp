@@ -10,6 +10,7 @@ MainForm::MainForm() : Form("FormGTMain", 0.0, 0.0) {
     ScalePixels();
     PictureGTContainer.ScalePixels();
     PictureGTContainer.BackColor = RGB(0, 0, 0);
+    PictureGTContainer.LowestRow = 24.0;  // of the date band, above the map
     PictureGT.ScalePixels();
     PictureGT.BackColor = RGB(0, 0, 0);
     PictureGT.BorderWidth = 2;

@@ -1,5 +1,6 @@
 #include "map/stored_pictures.h"
 
+#include <future>
 #include <utility>
 
 #include "assets/assets.h"
@@ -65,9 +66,12 @@ bool HasFineDay(const MapSource& Source) {
 
 void MakePlain(const MapPictures& Pictures, const MapSource& Source) {
     if (HasFineDay(Source)) {
-        Put(Source.NightOriginal, NightOf(Source.DayOriginal.Picture, Source.Darkening, Source.NightSea));
-        Stretch(Pictures.Night, Source.NightOriginal);
+        auto Night = std::async(std::launch::async, [&] {  // what takes longest when a window has a new size
+            Put(Source.NightOriginal, NightOf(Source.DayOriginal.Picture, Source.Darkening, Source.NightSea));
+            Stretch(Pictures.Night, Source.NightOriginal);
+        });
         Stretch(Pictures.Day, Source.DayOriginal);
+        Night.get();
     } else {
         Put(Source.NightOriginal, DecodeBmp(Source.Night));
         Put(Source.DayOriginal, DecodeBmp(Source.Day));
@@ -86,8 +90,18 @@ MapPictures ChooseMapPictures() {
     return {F.PictureDay, F.PictureNight};
 }
 
-void DropMapPictures() {
-    for (PictureSurface* Each : FormPictures.WorkPictures()) Each->Picture = Bitmap();
+// Those that are shown again are made where they were.
+void EmptyMapPictures() {
+    for (PictureSurface* Each : FormPictures.WorkPictures()) Each->Picture.Renew(0, 0, 0);
+}
+
+void DropOtherMapPictures(const MapPictures& Shown) {
+    const PicturesForm& F = FormPictures;
+    for (PictureSurface* Each : FormPictures.WorkPictures()) {
+        const bool Needed =
+            Each == &Shown.Day || Each == &Shown.Night || Each == &F.PictureDaySplit || Each == &F.PictureNightSplit;
+        if (!Needed) Each->Picture = Bitmap();
+    }
 }
 
 }  // namespace
@@ -97,14 +111,14 @@ void FormPictures_Form_Load() { FormPictures.PictureTZmask.SetPicture(DecodeBmp(
 void ResetMapPictures() {
     if (state.MapType != 0 && state.MapType != 1) return;
     state.MapTypeShown = state.MapType;
-    DropMapPictures();
+    EmptyMapPictures();
     FormPictures.PictureDayOrig.Picture = FormPictures.PicturePolitDayOrig.Picture = Bitmap();
 }
 
 MapPictures ShownMapPictures() {
     const MapPictures Shown = ChooseMapPictures();
     if (!Shown.Day.Picture.Empty()) return Shown;
-    DropMapPictures();
+    DropOtherMapPictures(Shown);
     Shown.Day.Canvas();
     Shown.Night.Canvas();
     if (state.MapTypeShown >= 0) MakePlain(Shown, SourceOf(state.MapTypeShown));
@@ -119,7 +133,7 @@ void FollowDensity() {
     const bool AllFollow = F.PictureGTContainer.Density == Density && F.PictureSundial.Density == Density;
     if (!AllFollow || F.PictureGT.Picture.Empty()) return;
     for (PictureSurface* Each : FormPictures.WorkPictures()) Each->Density = Density;
-    DropMapPictures();
+    EmptyMapPictures();
     RedrawMap();
 }
 

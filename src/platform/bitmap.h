@@ -31,6 +31,12 @@ struct Bitmap {
           Height(TheHeight),
           Pixels(static_cast<std::size_t>(TheWidth) * static_cast<std::size_t>(TheHeight), Fill) {}
 
+    // Begins anew where it was, when there is room.
+    void Renew(int TheWidth, int TheHeight, Color Fill) {
+        Width = TheWidth;
+        Height = TheHeight;
+        Pixels.assign(static_cast<std::size_t>(TheWidth) * static_cast<std::size_t>(TheHeight), Fill);
+    }
     bool Empty() const { return Pixels.empty(); }
     Color* Row(int Y) { return Pixels.data() + static_cast<std::size_t>(Y) * static_cast<std::size_t>(Width); }
     const Color* Row(int Y) const {

@@ -14,9 +14,10 @@ PictureBox::PictureBox(Container& TheParent, std::string_view TheName) : Contain
 
 Bitmap& PictureBox::Canvas() {
     const int PixelWidth = std::max(0, static_cast<int>(std::lround(InnerWidth() * Density)));
-    const int PixelHeight = std::max(0, static_cast<int>(std::lround(InnerHeight() * Density)));
+    const int PixelHeight =
+        std::max(0, static_cast<int>(std::lround(std::min(InnerHeight(), LowestRow + 1.0) * Density)));
     if (Picture.Width != PixelWidth || Picture.Height != PixelHeight) {
-        Picture = Bitmap(PixelWidth, PixelHeight, BackColor);
+        Picture.Renew(PixelWidth, PixelHeight, BackColor);
     }
     return Picture;
 }

@@ -25,9 +25,10 @@ struct MenuChoice {
 // the bitmap is finer: drawn on after Density was set to another value, it begins anew.
 class PictureBox : public Container {
 public:
-    Bitmap Picture;                                   // the inner area in device pixels, or empty
+    Bitmap Picture;                                   // the inner area down to LowestRow in device pixels, or empty
     std::string Description;                          // what it shows, for a screen reader; set before it is loaded
     Property<int> BorderWidth{*this, 0};              // pixels
+    double LowestRow = 1e9;                           // pixels from the top; below, nothing is ever drawn
     Property<double> Density{*this, 1.0};             // device pixels for each pixel each way; see LowestDensity
     Event DensityChanged;                             // raised when Density was set to another value
     std::function<void(float X, float Y)> MouseMove;  // the pointer, in user units

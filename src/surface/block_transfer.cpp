@@ -200,7 +200,7 @@ void StretchBlt(PictureSurface& Destination, int X, int Y, int Width, int Height
     for (std::size_t Row = 0; Row < Rows.Mixes.size(); ++Row) {
         const Mix& Vertical = Rows.Mixes[Row];
         if (Vertical.Weights.empty()) continue;
-        while (Passed < static_cast<std::size_t>(Vertical.First)) Stretched[Passed++] = {};
+        while (Passed < static_cast<std::size_t>(Vertical.First)) Stretched[Passed++] = WideRow();  // gives its room back
         WideRow Sums(3 * Columns.Mixes.size(), 1U << 23U);  // half a level, for rounding
         for (std::size_t Step = 0; Step < Vertical.Weights.size(); ++Step) {
             const std::size_t Needed = static_cast<std::size_t>(Vertical.First) + Step;

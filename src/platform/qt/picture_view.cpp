@@ -33,7 +33,9 @@ void PictureView::Repaint(QRect Drawn) {
     const QRectF Pixels(Drawn.x() * ToWidget, Drawn.y() * ToWidget, Drawn.width() * ToWidget,
                         Drawn.height() * ToWidget);
     const int Blur = ToWidget == 1.0 ? 0 : 1;  // pixels, by which stretching spreads a pixel
-    Stale |= Pixels.toAlignedRect().adjusted(-Blur, -Blur, Blur, Blur).translated(InnerArea().topLeft());
+    const QRect Shown = Pixels.toAlignedRect().adjusted(-Blur, -Blur, Blur, Blur).translated(InnerArea().topLeft());
+    if (Stale.contains(Shown)) return;
+    Stale |= Shown;
     update(Stale);
 }
 
@@ -46,19 +48,14 @@ void PictureView::paintEvent(QPaintEvent* Event) {
     Painter.setClipRect(Inner & Event->rect());
     QImage Image(reinterpret_cast<const uchar*>(Picture.Pixels.data()), Picture.Width, Picture.Height,
                  qsizetype{Picture.Width} * qsizetype{sizeof(Color)}, QImage::Format_RGBX8888);
-    if (IsSharp()) {
-        Image.setDevicePixelRatio(devicePixelRatioF());
-        const QSizeF Shown = Image.deviceIndependentSize();
-        if (Shown.width() < Inner.width() || Shown.height() < Inner.height()) {
-            Painter.fillRect(Inner, ToQColor(Record.BackColor));
-        }
-        if (!Picture.Empty()) Painter.drawImage(Inner.topLeft(), Image);
-    } else if (Picture.Empty()) {
+    const double Ratio = IsSharp() ? devicePixelRatioF() : Record.Density / Scale.Factor();
+    Image.setDevicePixelRatio(Ratio);
+    const QSizeF Shown = Image.deviceIndependentSize();
+    if (Shown.width() < Inner.width() || Shown.height() < Inner.height()) {
         Painter.fillRect(Inner, ToQColor(Record.BackColor));
-    } else {
-        Painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        Painter.drawImage(Inner, Image);
     }
+    Painter.setRenderHint(QPainter::SmoothPixmapTransform, !IsSharp());
+    if (!Picture.Empty()) Painter.drawImage(Inner.topLeft(), Image);
 }
 
 QPointF PictureView::ProgramPlace(const QPointF& Place) const {

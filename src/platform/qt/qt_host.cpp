@@ -202,11 +202,11 @@ GlyphMask QtHost::RenderText(const Font& TheFont, const std::string& Text, doubl
 }
 
 Bitmap QtHost::DecodePicture(std::span<const unsigned char> Bytes) {
-    const QImage Image =
-        QImage::fromData(Bytes.data(), static_cast<int>(Bytes.size())).convertToFormat(QImage::Format_RGBX8888);
+    const QImage Image = QImage::fromData(Bytes.data(), static_cast<int>(Bytes.size()));
     Bitmap Result(Image.width(), Image.height(), 0);
     for (int Y = 0; Y < Result.Height; ++Y) {
-        const auto* Row = reinterpret_cast<const Color*>(Image.constScanLine(Y));
+        const QImage Line = Image.copy(0, Y, Result.Width, 1).convertToFormat(QImage::Format_RGBX8888);
+        const auto* Row = reinterpret_cast<const Color*>(Line.constBits());
         std::transform(Row, Row + Result.Width, Result.Row(Y), [](Color Opaque) { return Opaque & 0xFFFFFFU; });
     }
     return Result;
