@@ -27,7 +27,6 @@ int SecondsEast() {
 
 void PrepareFolder() {
     HeadlessHost Nobody;  // the program starts unseen, for its tables and its zone mask
-    Nobody.ScreenWidth = 640;
     state.StartupSource = ConfigurationSource::Defaults;
     StartProgram();
     const std::string Zone = ComputerZone(std::getenv("TZ"));

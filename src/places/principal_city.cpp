@@ -76,7 +76,7 @@ std::string ComputerZone(const char* TZ, const std::string& Root) {
     if (Named.starts_with(':')) Named.erase(0, 1);
     if (!Named.empty()) return Named.starts_with('/') ? ZoneOfFile(Named) : Named;
     std::error_code Ignored;  // no link leads nowhere
-    const std::string Linked = ZoneOfFile(fs::read_symlink(Root + "/etc/localtime", Ignored).string());
+    std::string Linked = ZoneOfFile(fs::read_symlink(Root + "/etc/localtime", Ignored).string());
     if (!Linked.empty()) return Linked;
     const std::string Line = TextOf(Root + "/etc/timezone");
     return Line.substr(0, Line.find_first_of(" \t\r\n"));
