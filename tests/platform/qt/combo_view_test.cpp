@@ -63,26 +63,20 @@ TEST_F(Combo, TheListIsFilledBeforeItOpensAndHasTheKeys) {
 }
 
 TEST_F(Combo, ATextOfOnesOwnStaysOneAndAnEntryIsPickedByItsName) {
-    const auto Type = [&](const QString& Text) {
+    const std::tuple<const char*, int, const char*> Rows[] = {
+        {"Rom", -1, "Rom"},     {"Oslo, Norway", -1, "Oslo, Norway"},
+        {"Rome", 2, "Rome"},    {"rOmE ", 2, "Rome"},
+        {"Romeo", -1, "Romeo"}, {"R\u00F2me", 2, "Rome"}};
+    for (const auto& [Text, Entry, Shown] : Rows) {
         Enter(Text);
         QTest::keyClick(Offered.isVisible() ? &Offered : static_cast<QWidget*>(&Typed), Qt::Key_Tab);
-        EXPECT_FALSE(Typed.hasFocus());
-    };
-    for (const char* Own : {"Rom", "Romeo", "Oslo, Norway"}) {
-        Type(Own);
-        ExpectPicked(Demo.Names, Names, -1, Own);
-    }
-    EXPECT_EQ(Heard, "");
-    for (const char* Name : {"Rome", "rOmE ", "R\u00F2me"}) {
-        Type(Name);
-        ExpectPicked(Demo.Names, Names, 2, "Rome");
-        EXPECT_EQ(std::exchange(Heard, ""), "Names ") << Name;
+        ExpectPicked(Demo.Names, Names, Entry, Shown);
+        EXPECT_EQ(std::exchange(Heard, ""), Entry < 0 ? "" : "Names ") << Text;
     }
     Demo.Names.Type("Athens");  // the program's own text
     Names.setFocus();
     Find<QLineEdit>(Demo.Year).setFocus();
     ExpectPicked(Demo.Names, Names, -1, "Athens");
-    EXPECT_EQ(Names.count(), 3) << "nothing is added";
     for (const auto& [Cursor, Result] : {std::pair(2, "Osxylo"), {4, "Osloxy"}}) {
         Demo.Names.ListIndex = 1;
         Names.setFocus();
@@ -90,49 +84,41 @@ TEST_F(Combo, ATextOfOnesOwnStaysOneAndAnEntryIsPickedByItsName) {
         QTest::keyClicks(&Typed, "xy");
         ExpectPicked(Demo.Names, Names, -1, Result);
     }
+    EXPECT_EQ(Names.count(), 3) << "nothing is added";
 }
 
 TEST_F(Combo, EntriesThatFitAreOfferedWhileOneTypes) {
     for (const char* Entry : {"New York, USA", "S\u00E3o Tom\u00E9", "St John's"}) Demo.Names.AddItem(Entry);
-    const std::pair<const char*, const char*> Rows[] = {{"york", "New York, USA"},
-                                                        {"new y", "New York, USA"},
-                                                        {"o", "Oslo"},
-                                                        {"R", "Rome"},
-                                                        {"usa", "New York, USA"},
-                                                        {"SAO t", "S\u00E3o Tom\u00E9"},
-                                                        {"ork", ""},
-                                                        {"s", "St John's|S\u00E3o Tom\u00E9"}};
-    for (const auto& [Text, Expected] : Rows) {
+    for (const auto& [Text, Entries] : {std::pair("york", "New York, USA"),
+                                        {"new y", "New York, USA"},
+                                        {"o", "Oslo"},
+                                        {"ork", ""},
+                                        {"s", "St John's|S\u00E3o Tom\u00E9"},
+                                        {"SAO t", "S\u00E3o Tom\u00E9"}}) {
+        Offered.hide();
         Enter(Text);
-        QStringList Entries;
-        for (int Row = 0; Offered.isVisible() && Row < Offered.model()->rowCount(); ++Row) {
-            Entries.append(Offered.model()->index(Row, 0).data().toString());
-        }
-        EXPECT_EQ(Entries.join('|'), Expected) << Text;
+        QStringList Found;
+        for (int Row = 0; Row < Offered.model()->rowCount(); ++Row)
+            Found.append(Offered.model()->index(Row, 0).data().toString());
+        EXPECT_EQ(std::tuple(Offered.isVisible(), Found.join('|')), std::tuple(*Entries != 0, Entries)) << Text;
         EXPECT_EQ(Demo.Names.Text, Text) << "nothing is put in";
-        if (Offered.isVisible()) Offered.hide();
     }
-    QTest::keyClicks(&Typed, "a");
-    EXPECT_EQ(Demo.Names.Text, "sa");
     QTest::keyClick(&Offered, Qt::Key_Down);
     QTest::keyClick(&Offered, Qt::Key_Return);
-    ExpectPicked(Demo.Names, Names, Demo.Names.ListIndex, "S\u00E3o Tom\u00E9");
+    ExpectPicked(Demo.Names, Names, 5, "S\u00E3o Tom\u00E9");
     EXPECT_EQ(Heard, "Names ") << "once, and not OK";
 }
 
 TEST_F(Combo, TypedDigitsSelectTheirNumber) {
     for (int Number = 0; Number < 70; ++Number) Demo.Zones.AddItem((Number < 10 ? " 0" : " ") + std::to_string(Number));
-    const std::pair<const char*, const char*> Rows[] = {{"52", " 52"},  {"055", " 55"}, {"71", " 01"},
-                                                        {"666", " 06"}, {"00", " 00"},  {"9", " 09"}};
-    for (const auto& [Keys, Entry] : Rows) {
-        for (const bool Open : {false, true}) {
-            Demo.Zones.ListIndex = 1;
-            if (Open) Zones.showPopup();
-            QTest::keyClicks(Open ? static_cast<QWidget*>(Zones.view()) : &Zones, Keys);
-            if (Open) QTest::keyClick(Zones.view(), Qt::Key_Return);
-            EXPECT_EQ(Demo.Zones.Text, Entry) << Keys << Open;
-            QTest::keyClick(&Zones, Qt::Key_Home);  // the number ends
-        }
+    for (const auto& [Keys, Entry] : {std::pair("52", " 52"), {"055", " 55"}, {"71", " 01"}, {"666", " 06"}}) {
+        QTest::keyClicks(&Zones, Keys);
+        EXPECT_EQ(Demo.Zones.Text, Entry);
+        QTest::keyClick(&Zones, Qt::Key_Home);
+        Zones.showPopup();
+        QTest::keyClicks(Zones.view(), Keys);
+        QTest::keyClick(Zones.view(), Qt::Key_Return);
+        EXPECT_EQ(Demo.Zones.Text, Entry) << "in the open list";
     }
 }
 
