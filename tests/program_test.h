@@ -3,16 +3,30 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <filesystem>
 #include <fstream>
-#include <ostream>
+#include <limits>
+#include <map>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "clock/clock.h"
+#include "clock/recomputation.h"
+#include "forms/layout.h"
 #include "frame/startup.h"
+#include "map/day_night.h"
+#include "map/geometry.h"
 #include "platform/headless/headless_host.h"
+#include "state/numbers.h"
+#include "storage/configuration.h"
+#include "storage/files.h"
 #include "tests/fresh_program.h"
+#include "tests/golden.h"
+#include "tests/vectors.h"
 
 namespace gloamtide {
 
@@ -47,6 +61,10 @@ protected:
     static void Start() {
         state.StartupSource = ConfigurationSource::Defaults;
         StartProgram();
+    }
+    void Start(int ScreenWidth) {
+        Desktop.ScreenWidth = ScreenWidth;
+        Start();
     }
 
     void WriteFile(const std::string& Name, const std::string& Bytes) const {

@@ -97,18 +97,6 @@ void ReadRow(std::istream& Line, const std::vector<Column>& Header, VectorRow& R
     if (!Line || Line.peek() != EOF) throw std::runtime_error(Row.Where + " has not the columns of its table");
 }
 
-void Put(const std::string& Name, double Value) {
-    const auto PutOne = [Value](auto* Where) {
-        using Type = std::remove_pointer_t<decltype(Where)>;
-        if constexpr (std::is_arithmetic_v<Type>) *Where = static_cast<Type>(Value);
-    };
-    if (Fields.contains(Name)) std::visit(PutOne, Fields[Name]);
-}
-
-void Put(const std::string& Name, const std::string& Text) {
-    if (Fields.contains(Name)) *std::get<std::string*>(Fields[Name]) = Text;
-}
-
 // Step: what two neighbours of the type differ by, of their size, and a little more.
 void ExpectClose(const std::string& Name, double Value, double Expected, double Step = 1e-11) {
     static const std::map<std::string, double> Tolerances = {{"MoonElongationHours", 4e-6},
@@ -122,8 +110,16 @@ void ExpectClose(const std::string& Name, double Value, double Expected, double 
 }  // namespace
 
 void VectorValues::PutIntoState() const {
-    for (const auto& [Name, Value] : Numbers) Put(Name, Value);
-    for (const auto& [Name, Text] : Texts) Put(Name, Text);
+    for (const auto& [Name, Number] : Numbers) {
+        const auto Put = [Value = Number](auto* Where) {
+            using Type = std::remove_pointer_t<decltype(Where)>;
+            if constexpr (std::is_arithmetic_v<Type>) *Where = static_cast<Type>(Value);
+        };
+        if (Fields.contains(Name)) std::visit(Put, Fields[Name]);
+    }
+    for (const auto& [Name, Text] : Texts) {
+        if (Fields.contains(Name)) *std::get<std::string*>(Fields[Name]) = Text;
+    }
 }
 
 void VectorValues::ExpectInState() const {
@@ -141,7 +137,9 @@ void VectorValues::ExpectInState() const {
     }
 }
 
-void VectorRow::Expect(const std::string& Name, double Result) const { ExpectClose(Name, Result, Out[Name]); }
+void VectorRow::Expect(std::initializer_list<std::pair<const char*, double>> Results) const {
+    for (const auto& [Name, Result] : Results) ExpectClose(Name, Result, Out[Name]);
+}
 
 std::vector<VectorRow> ReadVectors(const std::string& Table) {
     std::ifstream File(GLOAMTIDE_TEST_DATA "/data/" + Table + ".txt");

@@ -29,8 +29,8 @@ struct VectorRow {
     VectorValues In, Out;
     std::vector<VectorValues> Groups;
 
-    // Compares a result with the output of that name.
-    void Expect(const std::string& Name, double Result) const;
+    // Compares results with the outputs of those names.
+    void Expect(std::initializer_list<std::pair<const char*, double>> Results) const;
 };
 
 // All rows of a table, named by its path in tests/data/; throws where it is no table.

@@ -196,11 +196,11 @@ void StretchBlt(PictureSurface& Destination, int X, int Y, int Width, int Height
     const StretchAxis Rows(DeviceExtent(Destination, Y, Height), To.Height, DeviceExtent(Source, SourceY, SourceHeight),
                            FromPixels.Height);
     std::vector<WideRow> Stretched(static_cast<std::size_t>(FromPixels.Height));
-    std::size_t Passed = 0;  // the rows of the source that no further row needs
+    std::size_t Passed = 0;  // the rows of the source that no further row needs: they give their memory back
     for (std::size_t Row = 0; Row < Rows.Mixes.size(); ++Row) {
         const Mix& Vertical = Rows.Mixes[Row];
         if (Vertical.Weights.empty()) continue;
-        while (Passed < static_cast<std::size_t>(Vertical.First)) Stretched[Passed++] = WideRow();  // gives its room back
+        while (Passed < static_cast<std::size_t>(Vertical.First)) Stretched[Passed++] = WideRow();
         WideRow Sums(3 * Columns.Mixes.size(), 1U << 23U);  // half a level, for rounding
         for (std::size_t Step = 0; Step < Vertical.Weights.size(); ++Step) {
             const std::size_t Needed = static_cast<std::size_t>(Vertical.First) + Step;

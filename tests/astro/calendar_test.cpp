@@ -7,6 +7,7 @@
 namespace gloamtide {
 namespace {
 
+// A day that never was is among those of tests/data/almanac.txt, a February 31 in tests/dialogs/configure_test.cpp.
 TEST(Calendar, EveryDayOfEightThousandYearsThereAndBack) {
     state = SharedState{};
     float LastDay = 31.0F;
@@ -19,20 +20,6 @@ TEST(Calendar, EveryDayOfEightThousandYearsThereAndBack) {
         LastDay = Day;
         DateToJulian();
         ASSERT_EQ(state.WorkJD, JD);
-    }
-}
-
-// Among them the ten that never were, which count on the Julian calendar.
-TEST(Calendar, DatesThatDoNotExistRunOn) {
-    for (const auto& [Year, Month, Day, RealMonth, RealDay] :
-         {std::array{1582.0F, 10.0F, 10.0F, 10.0F, 20.0F}, std::array{2001.0F, 2.0F, 31.0F, 3.0F, 3.0F}}) {
-        state = SharedState{};
-        state.WorkYear = Year;
-        state.WorkMonth = Month;
-        state.WorkDay = Day;
-        DateToJulian();
-        JulianToDate();
-        EXPECT_EQ(std::pair(state.WorkMonth, state.WorkDay), std::pair(RealMonth, RealDay)) << Year;
     }
 }
 

@@ -8,8 +8,7 @@ namespace {
 class AnimationSettings : public ProgramTest {
 protected:
     AnimationSettings() {
-        Desktop.ScreenWidth = 640;
-        Start();
+        Start(640);
         state.ConfigFilePath = "my.gtf";
         state.ConfigSaved = True;
         FormGTMain.MenuAnimationSubOptions.Click();
@@ -58,23 +57,12 @@ TEST_F(AnimationSettings, WhatCannotBeKeptIsToldAndStaysInForce) {
 }
 
 TEST_F(AnimationSettings, TheFirstTextOutOfRangeIsRefusedAndNothingTaken) {
-    struct Refused {
-        const char *Years, *Days, *Hours;
-        const TextBox& Box;
-        const char* Text;
-    };
-    const char* const YearText = "Year steps must be from -100 through +100: Please re-enter.";
-    const char* const DayText = "Day steps must be from -365 through +365: Please re-enter.";
-    const char* const HourText = "Hour steps must be from -24 through +24: Please re-enter.";
-    for (const Refused& Each :
-         {Refused{"100.01", "400", "", F.TextStepYears, YearText}, Refused{"-101", "0", "0", F.TextStepYears, YearText},
-          Refused{"0.0", "0", "0", F.TextStepYears, YearText}, Refused{"1e999", "0", "0", F.TextStepYears, YearText},
-          Refused{"100", "-365.5", "99", F.TextStepDays, DayText}, Refused{"5", "abc", "0", F.TextStepDays, DayText},
-          Refused{"-100", "365", "24.1", F.TextStepHours, HourText},
-          Refused{"5", "5", "nan", F.TextStepHours, HourText}}) {
-        OK(Each.Years, Each.Days, Each.Hours);
-        ExpectMessages({std::string("Input Out Of Range: ") + Each.Text});
-        EXPECT_TRUE(F.Visible && Desktop.Focus == &Each.Box);
+    for (const VectorRow& R : ReadVectors("refused_steps")) {
+        SCOPED_TRACE(R.Where);
+        OK(R.In.Texts["Years"], R.In.Texts["Days"], R.In.Texts["Hours"]);
+        ExpectMessages({"Input Out Of Range: " + R.Out.Texts["Message"]});
+        EXPECT_TRUE(F.Visible);
+        EXPECT_EQ(Desktop.Focus->Name, R.Out.Texts["Focus"]);
     }
     EXPECT_TRUE(state.AnimYears == 0.0F && state.AnimDays == 0.0F);
     EXPECT_FALSE(std::filesystem::exists(Folder / "my.gtf"));

@@ -1,6 +1,5 @@
 #include "dialogs/configure.h"
 
-#include "clock/recomputation.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {

@@ -1,8 +1,5 @@
 #include "dialogs/place_on_map.h"
 
-#include <cmath>
-
-#include "map/geometry.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {

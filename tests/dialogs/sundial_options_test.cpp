@@ -1,7 +1,6 @@
 #include "dialogs/sundial_options.h"
 
 #include "sundial/mottos.h"
-#include "tests/golden.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {
@@ -10,8 +9,7 @@ namespace {
 class SundialOptions : public ProgramTest {
 protected:
     SundialOptions() {
-        Desktop.ScreenWidth = 640;
-        Start();
+        Start(640);
         FormGTMain.MenuShowHideSubSundial.Click();
         state.ConfigSaved = True;
         state.SundialEOTCorrection = True;

@@ -1,11 +1,7 @@
 #include "forms/layout.h"
 
-#include <algorithm>
-#include <sstream>
-
 #include "platform/combo_box.h"
 #include "platform/controls.h"
-#include "tests/golden.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {

@@ -1,7 +1,5 @@
 #include "frame/file_commands.h"
 
-#include "storage/configuration.h"
-#include "storage/files.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {
@@ -18,17 +16,7 @@ protected:
         Save("cleveland.gtf");
         state.MapType = 1;
         Save("political.gtf");
-        state.OffsetDays = 10.0;
-        state.ZoneHours = -5.75F;
-        state.ShowSun = state.ShowCities = state.ShowSundial = True;
-        state.ShowMoon = 7;  // made by hand: neither
-        state.AnimYears = 2.0F;
-        state.AnimDays = -3.0F;
-        state.AnimHours = 0.5F;
-        state.AnimForward = False;
-        state.LocationName = "Kathmandu";
-        state.LocationLat = 27.7;
-        state.LocationLong = 85.3F;
+        ReadVectors("kathmandu").front().In.PutIntoState();
         Save("kathmandu.gtf");
         fs::create_directory("folder");
         WriteFile("short.gtf", Stored("kathmandu.gtf").substr(0, 600));

@@ -1,10 +1,6 @@
 #include "frame/first_configuration.h"
 
-#include <sstream>
-
 #include "places/principal_city.h"
-#include "storage/files.h"
-#include "tests/golden.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {

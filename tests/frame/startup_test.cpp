@@ -1,8 +1,6 @@
 #include "frame/startup.h"
 
-#include "forms/layout.h"
 #include "tests/program_test.h"
-#include "tests/vectors.h"
 
 namespace gloamtide {
 namespace {
@@ -51,8 +49,7 @@ TEST_F(Startup, WithoutAConfigurationTheDefaultsStandAfterTwoBeeps) {
 }
 
 TEST_F(Startup, AnUnquotedPathEndsAtACommaOrTheLine) {
-    Desktop.ScreenWidth = 640;
-    Start();  // what is shown then, and which timers run, is held by tests/data/windows.txt
+    Start(640);  // what is shown then, and which timers run, is held by tests/data/windows.txt
     EXPECT_TRUE(FormGTMain.Visible && !FormSplash.Loaded());
     FormGTMain.MenuFileSubSave.Click();
     std::filesystem::rename(FallbackPath, "my.gtf");

@@ -1,12 +1,8 @@
 #include "map/day_night.h"
 
-#include "clock/clock.h"
-#include "clock/recomputation.h"
 #include "map/stored_pictures.h"
 #include "places/zones.h"
-#include "tests/golden.h"
 #include "tests/program_test.h"
-#include "tests/vectors.h"
 
 namespace gloamtide {
 namespace {

@@ -1,14 +1,8 @@
 #include "tests/density.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include "assets/assets.h"
 #include "astro/degrees.h"
-#include "forms/layout.h"
-#include "map/day_night.h"
 #include "map/fine_pictures.h"
-#include "map/geometry.h"
 #include "map/stored_pictures.h"
 #include "tests/program_test.h"
 

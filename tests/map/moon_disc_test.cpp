@@ -1,10 +1,5 @@
 #include "map/moon_disc.h"
 
-#include <cmath>
-
-#include "forms/layout.h"
-#include "state/numbers.h"
-#include "tests/golden.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {

@@ -1,7 +1,5 @@
 #include "map/mouse_probe.h"
 
-#include <cmath>
-
 #include "tests/program_test.h"
 
 namespace gloamtide {

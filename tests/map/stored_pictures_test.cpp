@@ -3,7 +3,6 @@
 #include <set>
 
 #include "assets/assets.h"
-#include "map/geometry.h"
 #include "surface/stored_bitmap.h"
 #include "tests/program_test.h"
 
@@ -36,8 +35,7 @@ using CachedPictures = ProgramTest;
 
 // There and back by the Map menu; each of the eight cached pictures has its own content.
 TEST_F(CachedPictures, ComeBackWithTheMapType) {
-    Desktop.ScreenWidth = 640;
-    Start();
+    Start(640);
     const auto Cached = [] {
         std::vector<std::vector<Color>> Pictures;
         for (const int Shown : {3, 2, 1, 0}) {

@@ -1,27 +1,15 @@
 #include "panel/information_panel.h"
 
-#include <sstream>
-
 #include "astro/calendar.h"
-#include "clock/recomputation.h"
-#include "map/day_night.h"
-#include "map/geometry.h"
 #include "places/zones.h"
-#include "state/numbers.h"
-#include "storage/configuration.h"
-#include "tests/golden.h"
 #include "tests/program_test.h"
-#include "tests/vectors.h"
 
 namespace gloamtide {
 namespace {
 
 class Panel : public ProgramTest {
 protected:
-    Panel() {
-        Desktop.ScreenWidth = 640;
-        Start();
-    }
+    Panel() { Start(640); }
 
     // Brings the program to the instant and the place of a heading of almanac.txt.
     static void GoTo(const std::string& Heading) {
@@ -100,16 +88,6 @@ TEST_F(Panel, InstantsAndPlacesOfEightThousandYears) {
 
 // A field of the file and its number, in which a user sees nothing.
 TEST_F(Panel, FilesMadeByHand) { EXPECT_GE(ExpectShown("by_hand.txt", OpenFileMadeByHand), 10); }
-
-// A mark at each end, since blanks at the end belong to a name.
-TEST_F(Panel, NamesOfMonthsAndMoons) {
-    std::string Text;
-    for (const auto* Names : {&state.MonthNames, &state.MonthAbbreviations, &state.MoonNames}) {
-        for (const std::string& Each : *Names) Text += "|" + Each;
-        Text += "|\n";
-    }
-    ExpectGoldenText("month_names.txt", Text);
-}
 
 }  // namespace
 }  // namespace gloamtide

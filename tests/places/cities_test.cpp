@@ -1,20 +1,14 @@
 #include "places/cities.h"
 
-#include <map>
-#include <sstream>
-
-#include "tests/golden.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {
 namespace {
 
-class Cities : public ProgramTest {
-protected:
-    Cities() { Start(); }
-};
+using Cities = ProgramTest;
 
 TEST_F(Cities, Table) {
+    Start();
     std::ostringstream Text;
     for (std::size_t Row = 1; Row <= static_cast<std::size_t>(state.CityCount); ++Row) {
         Text << Row << " | " << state.CityName[Row] << " | " << state.CityLongitude[Row] << " | "
@@ -26,6 +20,7 @@ TEST_F(Cities, Table) {
 // Each city is picked by its user, as the list has it. tests/places/city_zones.txt tells its zone's red value from the
 // world's zone data, not from the mask.
 TEST_F(Cities, EachLandsOnItsOwnZone) {
+    Start();
     std::ifstream Table(std::filesystem::path(GLOAMTIDE_TEST_DATA) / "places/city_zones.txt");
     std::map<int, std::pair<float, std::string>> Zones;  // by row
     for (std::string Line; std::getline(Table, Line);) {

@@ -1,22 +1,14 @@
 #include "places/zones.h"
 
-#include <cmath>
-#include <limits>
-#include <map>
-#include <sstream>
-
-#include "tests/golden.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {
 namespace {
 
-class Zones : public ProgramTest {
-protected:
-    Zones() { Start(); }
-};
+using Zones = ProgramTest;
 
 TEST_F(Zones, Table) {
+    Start();
     ComboBox& List = FormConfigure.ComboSelTZ;
     std::map<int, std::string> Codes;  // red values of the mask, by row; -1: those of no zone
     for (int Code = 0; Code < 256; ++Code) {
@@ -39,18 +31,13 @@ TEST_F(Zones, Table) {
 }
 
 TEST_F(Zones, HoursOfNoRowTellThemselvesBesideTheNearestRow) {
-    const float Infinity = std::numeric_limits<float>::infinity();
-    for (const auto& [Hours, Row, Text] : {std::tuple(-5.3333F, 21, "GMT + 5:20"),
-                                           {4.4F, 8, "GMT - 4:24"},
-                                           {-14.0F, 31, "GMT + 14:00"},
-                                           {0.999999F, 12, "GMT - 1:00"},
-                                           {-0.25F, 13, "GMT + 0:15"},
-                                           {std::nanf(""), 13, ""},
-                                           {Infinity, 0, ""}}) {
-        state.ZoneHours = Hours;
+    Start();
+    for (const VectorRow& R : ReadVectors("zones_of_no_row")) {
+        SCOPED_TRACE(R.Where);
+        R.In.PutIntoState();
         SelectZoneRow();
-        EXPECT_EQ(FormConfigure.ComboSelTZ.ListIndex, Row) << Hours;
-        EXPECT_EQ(state.ZoneText, Text);
+        R.Expect({{"Row", FormConfigure.ComboSelTZ.ListIndex}});
+        R.Out.ExpectInState();
     }
 }
 

@@ -1,11 +1,8 @@
 #include "tests/storage/configuration_fuzz.h"
 
 #include <cstring>
-#include <limits>
 #include <random>
 
-#include "storage/configuration.h"
-#include "storage/files.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {
@@ -91,8 +88,7 @@ class AnyConfiguration : public ProgramTest, public testing::WithParamInterface<
 
 TEST_P(AnyConfiguration, IsShownOrRefusedWithAMessage) {
     constexpr int Files = 12'500 / SanitizedShare;  // 100,000 of all seeds
-    Desktop.ScreenWidth = 640;                      // the smallest map
-    Start();
+    Start(640);                                     // the smallest map
     state.ShowMapGrid = state.ShowAnalemma = state.ShowCities = state.ShowTimezones = True;
     state.ShowSun = state.ShowMoon = state.ShowSundial = True;
     state.SundialLongitudeCorrection = state.SundialEOTCorrection = state.SundialDSTCorrection = True;

@@ -9,7 +9,7 @@
 #include <ctime>
 #include <random>
 
-#include "storage/files.h"
+#include "storage/code_page.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {
@@ -19,22 +19,10 @@ namespace fs = std::filesystem;
 
 // Every field in turn with bits that no other has, some of them of numbers that are none.
 void SetOddConfiguration() {
-    const auto Single = [](std::uint32_t Bits) { return std::bit_cast<float>(Bits); };
-    std::int16_t Next = 600;
-    for (std::int16_t* Each :
-         {&state.DaylightHours, &state.MapType, &state.ShowMapGrid, &state.ShowAnalemma, &state.ShowCities,
-          &state.ShowTimezones, &state.ShowSun, &state.ShowMoon, &state.AnimForward, &state.ShowSundial,
-          &state.SundialLongitudeCorrection, &state.SundialEOTCorrection, &state.SundialDSTCorrection}) {
-        *Each = Next++;
-    }
+    static const VectorRow Odd = ReadVectors("odd_configuration").front();
+    Odd.In.PutIntoState();
     state.OffsetDays = std::bit_cast<double>(std::uint64_t{0x7FF0'0000'0000'1234});  // signalling
-    state.ZoneHours = -0.0F;
-    state.AnimYears = Single(0x7F80'0001);  // signalling
-    state.AnimDays = Single(0xFFC0'1234);
-    state.AnimHours = Single(0x0000'0001);  // the smallest there is
-    state.LocationName = "Zürich, €";
-    state.LocationLat = std::bit_cast<double>(std::uint64_t{0xFFF8'0000'0000'5678});
-    state.LocationLong = Single(0xFF80'0000);  // minus infinity
+    state.AnimYears = std::bit_cast<float>(0x7F80'0001U);                            // the same
 }
 
 // Where the records stand in the file, and what their numbers become, is the matter of tests/vectors_test.cpp.
@@ -104,28 +92,22 @@ TEST_F(Configuration, AFileMayEndAnywhereAfterItsName) {
 }
 
 TEST_F(Configuration, ANameIsCutAt46BytesOfTheCodePageAndTheUserIsTold) {
-    struct Case {
-        std::string Name, Stored, Kept;
-    };
     const std::string Dots(45, '.');
-    for (const Case& Each : {Case{Dots + "ü", Dots + "\xFC", Dots + "ü"}, Case{Dots + "ü!", Dots + "\xFC", Dots + "ü"},
-                             Case{"Łódź",
-                                  "?\xF3"
-                                  "d?",
-                                  "?ód?"},
-                             Case{"", "", ""}}) {
-        SCOPED_TRACE(Each.Name);
-        state.LocationName = Each.Name;
+    const std::pair<std::string, std::string> Names[] = {
+        {Dots + "ü", Dots + "ü"}, {Dots + "ü!", Dots + "ü"}, {"Łódź", "?ód?"}, {"", ""}};
+    for (const auto& [Name, Kept] : Names) {
+        const std::string Stored = ToCodePage(Kept);
+        SCOPED_TRACE(Name);
+        state.LocationName = Name;
         Desktop.Messages.clear();
         const std::string Bytes = SavedBytes();
-        EXPECT_EQ(Bytes.substr(672, 2 + Each.Stored.size()),
-                  std::string({static_cast<char>(Each.Stored.size()), '\0'}) + Each.Stored);
+        EXPECT_EQ(Bytes.substr(672, 2 + Stored.size()), std::string({static_cast<char>(Stored.size()), '\0'}) + Stored);
         EXPECT_EQ(Bytes.substr(720), Default.substr(720));
-        EXPECT_EQ(std::pair(state.LocationName, state.ConfigSaved), std::pair(Each.Name, True));
-        ASSERT_EQ(Desktop.Messages.size(), Each.Name == Each.Kept ? 0U : 1U);
-        if (Each.Name == Each.Kept) continue;
+        EXPECT_EQ(std::pair(state.LocationName, state.ConfigSaved), std::pair(Name, True));
+        ASSERT_EQ(Desktop.Messages.size(), Name == Kept ? 0U : 1U);
+        if (Name == Kept) continue;
         EXPECT_EQ(Desktop.Messages[0].BeepsBefore, 2);
-        EXPECT_NE(Desktop.Messages[0].Box.Text.find('"' + Each.Kept + '"'), std::string::npos);
+        EXPECT_NE(Desktop.Messages[0].Box.Text.find('"' + Kept + '"'), std::string::npos);
     }
 }
 

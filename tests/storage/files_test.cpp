@@ -165,27 +165,18 @@ TEST_F(Files, TwoOfTheSameProcessNumberSaveAtOnce) {
 }
 
 TEST_F(Files, ASaveRemovesWhatKilledSavesLeft) {
-    struct Leftover {
-        std::string Name;
-        std::chrono::seconds Age;
-        bool Stays;
-    };
-    const Leftover Found[] = {
-        {".gloamtide-k4zz09ab.tmp", 62s, false}, {".gloamtide-young123.tmp", 50s, true},
-        {".gloamtide-locked12.tmp", 1h, true},  // its process still writes it
-        {".gloamtide-k4zz09ab.tmp~", 1h, true},  {".gloamtide-k4zz09a.tmp", 1h, true},
-        {".gloamtide-K4zz09ab.tmp", 1h, true},   {".gloamtide-" + std::to_string(getpid()), 1h, true},
-        {"gloamtide-k4zz09abc.tmp", 1h, true}};
-    for (const Leftover& Each : Found) {
-        WriteFile(Each.Name, "old");
-        fs::last_write_time(Each.Name, fs::file_time_type::clock::now() - Each.Age);
+    const std::vector<VectorRow> Found = ReadVectors("leftovers");
+    for (const VectorRow& R : Found) {
+        WriteFile(R.In.Texts["Name"], "old");
+        const std::chrono::seconds Age(R.In.Whole("Seconds"));
+        fs::last_write_time(R.In.Texts["Name"], fs::file_time_type::clock::now() - Age);
     }
     mkfifo(".gloamtide-nofile12.tmp", 0600);  // nor does the save wait for its other end
     const int Locked = open(".gloamtide-locked12.tmp", O_RDONLY);
     ASSERT_EQ(flock(Locked, LOCK_SH), 0);
     gloamtide::WriteFile("my.gtf", "new");
     close(Locked);
-    for (const Leftover& Each : Found) EXPECT_EQ(fs::exists(Each.Name), Each.Stays) << Each.Name;
+    for (const VectorRow& R : Found) EXPECT_EQ(fs::exists(R.In.Texts["Name"]), R.Out["Stays"] == -1.0) << R.Where;
     EXPECT_TRUE(fs::exists(".gloamtide-nofile12.tmp"));
 }
 

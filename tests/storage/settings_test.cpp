@@ -1,6 +1,5 @@
 #include "storage/settings.h"
 
-#include "forms/layout.h"
 #include "state/extras.h"
 #include "tests/program_test.h"
 

@@ -1,10 +1,7 @@
 #include "sundial/dial.h"
 
 #include "astro/solar.h"
-#include "clock/clock.h"
-#include "tests/golden.h"
 #include "tests/program_test.h"
-#include "tests/vectors.h"
 
 namespace gloamtide {
 namespace {
@@ -12,8 +9,7 @@ namespace {
 using Dial = ProgramTest;
 
 TEST_F(Dial, OfManyPlaces) {
-    Desktop.ScreenWidth = 1280;
-    Start();
+    Start(1280);
     const PictureSurface& Picture = FormGTMain.PictureSundial;
     const int Width = static_cast<int>(Picture.Width.Pixels());
     const int Height = static_cast<int>(Picture.Height.Pixels());

@@ -1,10 +1,7 @@
 #include "tests/density.h"
 
-#include <algorithm>
-#include <cmath>
 #include <tuple>
 
-#include "platform/headless/headless_host.h"
 #include "surface/picture_surface.h"
 #include "tests/program_test.h"
 

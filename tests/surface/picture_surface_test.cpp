@@ -1,13 +1,8 @@
 #include "surface/picture_surface.h"
 
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <limits>
 #include <set>
-#include <utility>
 
-#include "platform/headless/headless_host.h"
+#include "tests/program_test.h"
 
 namespace gloamtide {
 namespace {
@@ -163,33 +158,22 @@ TEST_F(Surface, NoArgumentHarms) {
             S.CurrentY = B;
             S.Print("noon");
             S.Scale(A, B, B, A);
+            ASSERT_TRUE(std::isnormal(S.ScaleX.Units) && std::isfinite(S.ScaleX.Origin)) << A << ", " << B;
         }
     }
     EXPECT_EQ(S.Point(0, 0), -1);
 }
 
-// --- block transfers: where they land, and what two of their pixels are
-
+// What stretches a picture is held by the boards in tests/data/pictures.
 TEST_F(Surface, TransfersAreClippedAtBothSurfacesAndNeverFlipped) {
     constexpr int Highest = std::numeric_limits<int>::max();
-    struct Case {
-        int X, Y, Width, Height, SourceX, SourceY;
-        std::size_t Count;
-        int SeenX, SeenY;
-        Color Seen;
-    };
-    const Case Cases[] = {
-        {5, 6, 10, 8, 20, 3, 80, 14, 13, RGB(30, 11, 7)}, {0, 10, 5, -3, 0, 10, 15, 0, 7, RGB(1, 8, 7)},
-        {9, 3, -4, 2, 20, 0, 8, 5, 3, RGB(17, 1, 7)},     {-3, 28, 10, 10, 2, 0, 14, 0, 28, RGB(6, 1, 7)},
-        {0, 0, 10, 10, -4, 25, 30, 4, 0, RGB(1, 26, 7)},  {0, 0, Highest, Highest, 0, 0, 1200, 39, 29, RGB(40, 30, 7)},
-        {35, 0, 10, 10, 0, 28, 10, 39, 1, RGB(5, 30, 7)},
-    };
     S.Scale(956.0, 80.0, 0.0, -70.0);  // has no say
-    for (const Case& C : Cases) {
-        SCOPED_TRACE(&C - Cases);
-        BitBlt(S, C.X, C.Y, C.Width, C.Height, O, C.SourceX, C.SourceY);
-        EXPECT_EQ(S.Canvas().Row(C.SeenY)[C.SeenX], C.Seen);
-        EXPECT_EQ(Taken().size(), C.Count);
+    for (const VectorRow& R : ReadVectors("transfers")) {
+        SCOPED_TRACE(R.Where);
+        const auto In = [&R](const char* Name) { return R.In.Whole(Name); };
+        BitBlt(S, In("X"), In("Y"), In("Width"), In("Height"), O, In("SourceX"), In("SourceY"));
+        const Color Seen = S.Canvas().Row(R.Out.Whole("SeenY"))[R.Out.Whole("SeenX")];
+        R.Expect({{"Red", RedOf(Seen)}, {"Green", GreenOf(Seen)}, {"Count", Taken().size()}});
     }
     const int Odd[] = {std::numeric_limits<int>::min(), -5, 0, 3, 1000000, Highest};
     for (const int A : Odd) {
@@ -206,29 +190,6 @@ TEST_F(Surface, TransfersAreClippedAtBothSurfacesAndNeverFlipped) {
     BitBlt(O, 3, 2, 30, 20, O, 0, 0);  // within itself
     EXPECT_EQ(O.Picture.Row(21)[32], RGB(30, 20, 7));
     EXPECT_EQ(O.Picture.Row(2)[3], RGB(1, 1, 7));
-}
-
-TEST_F(Surface, StretchingKeepsFlatColoursFlat) {
-    O.BackColor = RGB(0, 119, 225);
-    for (const auto& [W, H] : {std::pair(40, 30), std::pair(39, 17), std::pair(7, 29), std::pair(400, 300)}) {
-        StretchBlt(S, 0, 0, W, H, O, 1, 1, 23, 19);
-        for (int Y = 0; Y < std::min(H, 30); ++Y) {
-            for (int X = 0; X < std::min(W, 40); ++X) ASSERT_EQ(S.Picture.Row(Y)[X], RGB(0, 119, 225));
-        }
-    }
-}
-
-TEST_F(Surface, ShrinkingWeighsByAreaAndEnlargingRunsEvenly) {
-    O.BackColor = 0;
-    O.Line(0, 0, 0, 29, RGB(200, 100, 50), LineForm::BoxFilled);
-    StretchBlt(S, 0, 0, 16, 30, O, 0, 0, 40, 30);  // 2.5 columns become one
-    EXPECT_EQ(S.Picture.Row(3)[0], RGB(80, 40, 20));
-    EXPECT_EQ(S.Picture.Row(3)[1], 0U);
-    O.BackColor = 0;
-    O.PSet(1, 0, RGB(100, 100, 100));
-    StretchBlt(S, 0, 0, 8, 4, O, 0, 0, 2, 1);
-    const int Expected[] = {0, 0, 13, 38, 63, 88, 100, 100};  // eighths: 0, 0, 1, 3, 5, 7, 8, 8
-    for (int X = 0; X < 8; ++X) EXPECT_NEAR(RedOf(S.Picture.Row(2)[X]), Expected[X], 1) << X;
 }
 
 }  // namespace

@@ -1,11 +1,11 @@
-// The tests of the Qt host run inside one application, on Qt's offscreen platform.
+// The tests of the Qt host run inside one application, on Qt's offscreen platform where no other is asked for.
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
 
 int main(int Count, char** Arguments) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("TZ", "IST-5:30");  // so that local time is not Greenwich time
     testing::InitGoogleTest(&Count, Arguments);
     const QApplication Application(Count, Arguments);
