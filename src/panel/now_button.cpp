@@ -67,7 +67,7 @@ std::string Difference() {
 }  // namespace
 
 void ShowNowButton() {
-    const bool Shown = !(std::abs(state.OffsetDays) < 0.5 / SecondsADay);
+    const bool Shown = !(std::abs(state.OffsetDays) < 1.0 / SecondsADay);
     if (Shown) {
         const float SecondBefore = state.WorkSecond;
         FormGTMain.ButtonNow.ToolTipText = Difference();

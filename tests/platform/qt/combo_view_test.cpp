@@ -63,15 +63,12 @@ TEST_F(Combo, TheListIsFilledBeforeItOpensAndHasTheKeys) {
 }
 
 TEST_F(Combo, ATextOfOnesOwnStaysOneAndAnEntryIsPickedByItsName) {
-    const std::tuple<const char*, int, const char*> Rows[] = {
-        {"Rom", -1, "Rom"},     {"Oslo, Norway", -1, "Oslo, Norway"},
-        {"Rome", 2, "Rome"},    {"rOmE ", 2, "Rome"},
-        {"Romeo", -1, "Romeo"}, {"R\u00F2me", 2, "Rome"}};
-    for (const auto& [Text, Entry, Shown] : Rows) {
+    for (const auto& [Text, Entry] :
+         {std::pair("Rom", -1), {"Rome", 2}, {"rOmE ", 2}, {"Romeo", -1}, {"R\u00F2me", 2}}) {
         Enter(Text);
         QTest::keyClick(Offered.isVisible() ? &Offered : static_cast<QWidget*>(&Typed), Qt::Key_Tab);
-        ExpectPicked(Demo.Names, Names, Entry, Shown);
-        EXPECT_EQ(std::exchange(Heard, ""), Entry < 0 ? "" : "Names ") << Text;
+        ExpectPicked(Demo.Names, Names, Entry, Entry < 0 ? Text : "Rome");
+        EXPECT_EQ(std::exchange(Heard, ""), Entry < 0 ? "" : "Names ");
     }
     Demo.Names.Type("Athens");  // the program's own text
     Names.setFocus();
@@ -89,20 +86,18 @@ TEST_F(Combo, ATextOfOnesOwnStaysOneAndAnEntryIsPickedByItsName) {
 
 TEST_F(Combo, EntriesThatFitAreOfferedWhileOneTypes) {
     for (const char* Entry : {"New York, USA", "S\u00E3o Tom\u00E9", "St John's"}) Demo.Names.AddItem(Entry);
-    for (const auto& [Text, Entries] : {std::pair("york", "New York, USA"),
-                                        {"new y", "New York, USA"},
-                                        {"o", "Oslo"},
-                                        {"ork", ""},
-                                        {"s", "St John's|S\u00E3o Tom\u00E9"},
-                                        {"SAO t", "S\u00E3o Tom\u00E9"}}) {
+    QString Text;
+    for (const char* Begin : {"york", "new y", "o", "ork", "s", "SAO t"}) {
         Offered.hide();
-        Enter(Text);
-        QStringList Found;
+        Enter(Begin);
+        EXPECT_EQ(Demo.Names.Text, Begin) << "nothing is put in";
+        Text += QString(Begin) + (Offered.isVisible() ? ":" : ".");
         for (int Row = 0; Row < Offered.model()->rowCount(); ++Row)
-            Found.append(Offered.model()->index(Row, 0).data().toString());
-        EXPECT_EQ(std::tuple(Offered.isVisible(), Found.join('|')), std::tuple(*Entries != 0, Entries)) << Text;
-        EXPECT_EQ(Demo.Names.Text, Text) << "nothing is put in";
+            Text += Offered.model()->index(Row, 0).data().toString() + "|";
     }
+    EXPECT_EQ(
+        Text,
+        "york:New York, USA|new y:New York, USA|o:Oslo|ork.s:St John's|S\u00E3o Tom\u00E9|SAO t:S\u00E3o Tom\u00E9|");
     QTest::keyClick(&Offered, Qt::Key_Down);
     QTest::keyClick(&Offered, Qt::Key_Return);
     ExpectPicked(Demo.Names, Names, 5, "S\u00E3o Tom\u00E9");

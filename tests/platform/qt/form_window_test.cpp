@@ -102,40 +102,34 @@ TEST_F(Windows, TheProgramAloneSetsTheCheckOfAMenuItem) {
 }
 
 TEST_F(Windows, KeysThatNoControlUsesAreTheForms) {
-    const std::tuple<const char*, Qt::Key, Qt::KeyboardModifiers> Keys[] = {
-        {"Shift+Right", Qt::Key_Right, Qt::ShiftModifier},
-        {"Ctrl+Left", Qt::Key_Left, Qt::ControlModifier},
-        {"Home", Qt::Key_Home, Qt::KeypadModifier},
-        {"Space", Qt::Key_Space, Qt::NoModifier}};
-    for (const auto& [Name, Key, Modifiers] : Keys) {
+    const auto Hold = [](QWidget& Widget, const QKeyCombination& Key) {
+        QKeyEvent Held(QEvent::KeyPress, Key.key(), Key.keyboardModifiers(), QString(), true);
+        QCoreApplication::sendEvent(&Widget, &Held);
+    };
+    for (const auto& [Name, Key] : {std::pair("Shift+Right", Qt::SHIFT | Qt::Key_Right),
+                                    {"Home", Qt::KeypadModifier | Qt::Key_Home},
+                                    {"Space", QKeyCombination(Qt::Key_Space)}}) {
         Demo.Keys[Name] = [this, Name = Name] { Heard += std::string(Name) + " "; };
-        QTest::keyClick(&Window(), Key, Modifiers);
-        QTest::keyClick(&Find<QLineEdit>(Demo.Year), Key, Modifiers);  // has a use for it
-        QKeyEvent Held(QEvent::KeyPress, Key, Modifiers, QString(), true);
-        QCoreApplication::sendEvent(&Window(), &Held);  // had waited while the first was done
-    }
-    EXPECT_EQ(Heard, "Shift+Right Ctrl+Left Home Space ");
-    for (const Qt::Key Key : {Qt::Key_Space, Qt::Key_Home}) {
+        QTest::keyClick(&Window(), Key.key(), Key.keyboardModifiers());
+        Hold(Window(), Key);  // had waited while the first was done
+        QTest::keyClick(&Find<QLineEdit>(Demo.Year), Key.key(), Key.keyboardModifiers());  // has a use for it
         QTest::qWait(4);
-        QKeyEvent Held(QEvent::KeyPress, Key, Qt::NoModifier, QString(), true);
-        QCoreApplication::sendEvent(&Window(), &Held);
+        Hold(Window(), Key);
     }
-    EXPECT_EQ(Heard, "Shift+Right Ctrl+Left Home Space Home ") << "Space switches once";
+    EXPECT_EQ(Heard, "Shift+Right Shift+Right Home Home Space ") << "Space switches once";
 }
 
 TEST_F(Windows, TheButtonOfTheBarStandsAtItsEndAndMakesItNoHigher) {
     auto& Button = Find<QToolButton>(Demo.Now);
     EXPECT_FALSE(Button.isVisible());
-    Demo.Now.ToolTipText = "3 days in the past";
+    Demo.Now.ToolTipText = "Tip";
     Demo.Now.Visible = true;
     QMenuBar Plain;
     Plain.addMenu("File");
-    const QMenuBar& Bar = *dynamic_cast<QMainWindow&>(Window()).menuBar();
-    EXPECT_EQ(Bar.height(), Plain.sizeHint().height());
+    EXPECT_EQ(Button.parentWidget()->height(), Plain.sizeHint().height());
     EXPECT_EQ(Button.mapTo(&Window(), QPoint(Button.width(), 0)).x(), Window().width());
-    EXPECT_EQ(Button.toolTip(), "3 days in the past");
     QTest::mouseClick(&Button, Qt::LeftButton);
-    EXPECT_EQ(Heard, "Now ");
+    EXPECT_EQ(Heard + Button.toolTip().toStdString(), "Now Tip");
 }
 
 }  // namespace
