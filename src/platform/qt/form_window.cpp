@@ -214,11 +214,12 @@ bool FormWindow::PressKeyOfForm(const QKeyEvent& Event) {
     const QKeySequence Key(QKeyCombination(Modifiers, static_cast<Qt::Key>(Event.key())));
     const auto Found = Record.Keys.find(Key.toString(QKeySequence::PortableText).toStdString());
     if (Found == Record.Keys.end()) return false;
-    // Held down, a key repeats itself, maybe faster than it can be followed: what comes at once had been waiting.
-    const bool Waited = SinceKey.isValid() && !SinceKey.hasExpired(2);
-    const bool Switch = Event.key() == Qt::Key_Space;
-    if (!Event.isAutoRepeat() || !(Waited || Switch)) Found->second();
-    SinceKey.start();
+    // Held down, a key repeats itself, maybe faster than it can be followed: what had waited meanwhile is left out.
+    const bool Again = Event.isAutoRepeat() && (Following || Event.key() == Qt::Key_Space);
+    if (Again) return true;
+    Found->second();
+    Following = true;
+    QTimer::singleShot(0, this, [this] { Following = false; });
     return true;
 }
 

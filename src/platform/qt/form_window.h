@@ -1,7 +1,6 @@
 // The window of a form.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QTimer>
 #include <functional>
@@ -65,7 +64,7 @@ private:
     QWidget* UpperEdge;  // where the pointer asks for the menu bar
     std::optional<double> FixedScale;
     QSize Expected;
-    QElapsedTimer SinceKey;  // of the form's, since it was done
+    bool Following = false;  // a key of the form was done, and what waited meanwhile is not looked at yet
     QTimer Rest;             // until the window's size counts as settled
     QTimer Uncovered;        // while the menu bar shows in full screen
     Watchers Watching;
