@@ -44,8 +44,6 @@ void FreezeAtLimit() {
     ShowYearLimitMessage();
 }
 
-// Kept: sunrise and sunset are reckoned from the new date here, from the one before where a file is opened or the
-// location is configured.
 void Step(double Days, double Years) {
     state.SavedLocalSecond = ToInt16(state.LocalSecond);
     state.SavedGreenwichSecond = ToInt16(state.GreenwichSecond);
@@ -125,7 +123,6 @@ void MenuAnimationSubNow_Click() {
     state.OffsetDays = 0.0;
     state.CurrentJD = state.SystemJD;
     state.ConfigSaved = False;
-    UpdateDateFields();  // before sunrise and sunset are reckoned from them
     RecomputeAlmanac();
     RedrawMap();
 }

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <string>
 
-#include "clock/clock.h"
 #include "clock/recomputation.h"
 #include "dialogs/configure.h"
 #include "forms/form_configure.h"
@@ -64,7 +63,6 @@ void GoToCity(std::size_t Row) {
     PickCity(Row);
     TakeLocation();
     state.ConfigSaved = False;
-    UpdateDateFields();  // before sunrise and sunset are reckoned from them
     RecomputeAlmanac();
     RedrawMap();
 }

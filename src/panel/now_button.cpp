@@ -28,7 +28,7 @@ double YearsLater(double JD, double Years) {
 }
 
 double WholeYears(double From, double To) {
-    const double Slack = 1.0 / SecondsADay;
+    const double Slack = 1.0 / SecondsADay;  // a sum of other terms may round up
     double Years = std::floor((To - From) / 365.25) + 1.0;
     while (Years > 0.0 && YearsLater(From, Years) > To + Slack) Years -= 1.0;
     return Years;

@@ -72,7 +72,6 @@ void ComboView::ShowSelection() {
     const int Cursor = lineEdit() == nullptr ? 0 : lineEdit()->cursorPosition();
     if (currentIndex() != Record.ListIndex) setCurrentIndex(Record.ListIndex);
     if (lineEdit() == nullptr || lineEdit()->text() == Text) return;
-    Typed = false;
     lineEdit()->setText(Text);
     lineEdit()->setCursorPosition(Cursor);
 }
