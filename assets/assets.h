@@ -14,6 +14,8 @@ AssetBytes PoliticalNightBmp();
 AssetBytes NaturalFineWebp();
 AssetBytes PoliticalFineWebp();
 AssetBytes SeaFinePng();
+AssetBytes TerrainDayWebp();
+AssetBytes TerrainNightWebp();
 AssetBytes ZoneMaskBmp();
 AssetBytes SplashBmp();
 AssetBytes IconBmp();

@@ -31,6 +31,8 @@ constexpr gloamtide::TableLine Lines[] = {
     {"RedrawMap, all overlays", FourCopies},
     {"RedrawMap, all overlays, density 2", FourCopies2},
     {"RedrawMap, all overlays, density 3", FourCopies3},
+    {"RedrawMap, terrain, all overlays", FourCopies},
+    {"RedrawMap, terrain, all overlays, density 2", FourCopies2},
     {"one step of the animation, all overlays", FourCopies},
     {"the map pictures of a new type", FourCopies},
     {"one tick of the clock", FourCopies},

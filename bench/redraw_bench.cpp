@@ -9,6 +9,7 @@
 #include "forms/form_pictures.h"
 #include "map/day_night.h"
 #include "map/stored_pictures.h"
+#include "state/extras.h"
 #include "state/state.h"
 
 namespace gloamtide {
@@ -52,6 +53,17 @@ void Redraw(benchmark::State& Runs, Boolean Overlays, double Density) {
     SetDensity(1.0);
 }
 
+// The soft edge, and all overlays that any map can have. Nothing decodes the terrain here: the natural map has its
+// edge.
+void RedrawTerrain(benchmark::State& Runs, double Density) {
+    StartOnce();
+    extras.TerrainShown = extras.TwilightLinesShown = extras.CityNamesShown = True;
+    ResetMapPictures();
+    Redraw(Runs, True, Density);
+    extras = Extras{};
+    ResetMapPictures();
+}
+
 // After a change of the map type, with city marks and zone lines.
 void Rebuild(benchmark::State& Runs) {
     StartOnce();
@@ -72,6 +84,8 @@ BENCHMARK_CAPTURE(Redraw, Plain, False, 1.0)->Name("RedrawMap, no overlay")->Uni
 BENCHMARK_CAPTURE(Redraw, 1, True, 1.0)->Name("RedrawMap, all overlays")->Unit(Micro);
 BENCHMARK_CAPTURE(Redraw, 2, True, 2.0)->Name("RedrawMap, all overlays, density 2")->Unit(Micro);
 BENCHMARK_CAPTURE(Redraw, 3, True, 3.0)->Name("RedrawMap, all overlays, density 3")->Unit(Micro);
+BENCHMARK_CAPTURE(RedrawTerrain, 1, 1.0)->Name("RedrawMap, terrain, all overlays")->Unit(Micro);
+BENCHMARK_CAPTURE(RedrawTerrain, 2, 2.0)->Name("RedrawMap, terrain, all overlays, density 2")->Unit(Micro);
 BENCHMARK(Rebuild)->Name("the map pictures of a new type")->Unit(Micro);
 
 }  // namespace

@@ -33,6 +33,7 @@ AwaitWindow() { Await "[[ \$(xdotool getactivewindow getwindowname 2>/dev/null) 
 
 # $1: the size of its screen, such as 1280x1024
 StartDisplay() {
+    rm -f "$Scratch/display"  # of an earlier one
     # Without -noreset the server starts anew, and throws its clients out, whenever xdotool was its only one.
     Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset 3>"$Scratch/display" 2>/dev/null &
     Jobs+=($!)

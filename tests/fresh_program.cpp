@@ -9,6 +9,7 @@ void RenewProgram() {
     LoadedForms.clear();
     Renew(FormPictures, FormGTMain, FormSplash, FormAbout, FormConfigure, FormAnimation, FormSundialOptions);
     state = SharedState{};
+    extras = Extras{};
 }
 
 }  // namespace gloamtide

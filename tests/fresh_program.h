@@ -8,6 +8,7 @@
 #include "forms/form_pictures.h"
 #include "forms/form_splash.h"
 #include "forms/form_sundial_options.h"
+#include "state/extras.h"
 #include "state/state.h"
 
 namespace gloamtide {

@@ -130,7 +130,8 @@ StartProgram() {
 
 Main='Gloamtide (home.gtf)'
 mkdir -p "$Images"
-Still gloamtide.png 2026-06-21T16:20:20Z 1280 0 summer sun moon analemma cities zones
+"$Build/gloamtide-still" --at 2026-11-23T19:20:20Z --map terrain --hide analemma --show sun,moon,city-names,timezones \
+    --size 1920x1080 "$Images/gloamtide.jpg"
 Still class-0.png 2026-12-21T12:00:30Z 640 0 sun moon
 Still class-1.png 2026-09-23T16:00:30Z 800 1 summer sun grid analemma
 Still class-2.png 2026-07-09T14:00:30Z 1024 0 summer sun moon cities sundial

@@ -40,11 +40,10 @@ void ShowCoordinate(ComboBox& Degrees, ComboBox& Minutes, float Coordinate) {
     Minutes.ListIndex = ToInt16(std::floor((Magnitude + 0.005 - Whole) * 60.0));
 }
 
-// Shows a coordinate to the nearest minute, or the last one that the lists hold.
-void SelectMinutes(ComboBox& Degrees, ComboBox& Minutes, double Coordinate) {
-    const int Nearest = std::min<int>(ToInt16(std::abs(Coordinate) * 60.0), Degrees.ListCount() * 60 - 1);
-    Degrees.ListIndex = Nearest / 60;
-    Minutes.ListIndex = Nearest % 60;
+// The nearest minute, at most the last one of so many degrees.
+float InMinutes(double Coordinate, int Degrees) {
+    const double LastMinute = Degrees + 59.0 / 60.0;
+    return Single(RoundHalfEven(std::clamp(Coordinate, -LastMinute, LastMinute) * 60.0) / 60.0);
 }
 
 double ListedCoordinate(const ComboBox& Degrees, const ComboBox& Minutes) {
@@ -55,21 +54,6 @@ bool YearInRange(const std::string& Text) {
     const double Year = LeadingNumber(Text);
     if (Year == 0.0) return Text == "0";
     return Year >= -4000.0 && Year <= 4000.0;
-}
-
-void TakePlace() {
-    const ConfigureForm& F = FormConfigure;
-    state.LocationName = F.ComboCityName.Text;
-    state.LocationLong = Single(ListedCoordinate(F.ComboSetLongDeg, F.ComboSetLongMin));
-    if (F.OptionSetLong[1].Value) state.LocationLong *= -1.0F;
-    state.LocationLat = ListedCoordinate(F.ComboSetLatDeg, F.ComboSetLatMin);
-    if (F.OptionSetLat[1].Value) state.LocationLat *= -1.0;
-}
-
-void TakeZone() {
-    const auto Zone = static_cast<std::size_t>(FormConfigure.ComboSelTZ.ListIndex);
-    state.ZoneHours = state.ZoneHoursTable[Zone];
-    state.ZoneText = state.ZoneShortName[Zone];
 }
 
 void TakeSystemTime() {
@@ -183,30 +167,32 @@ void ShowConfigurationInForce() {
 
 void PickCity(std::size_t Row) {
     ComboBox& Names = FormConfigure.ComboCityName;
-    for (int Position = 0; Position < Names.ListCount(); ++Position) {
-        if (Names.ItemData(Position) == static_cast<int>(Row)) return Names.Pick(Position);
-    }
+    int Position = 0;
+    while (Names.ItemData(Position) != static_cast<int>(Row)) ++Position;
+    Names.Pick(Position);
+    ZoneFromLocation();
 }
 
 void PickPlace(const std::string& Name, double Latitude, double Longitude) {
-    ConfigureForm& F = FormConfigure;
-    F.ComboCityName.Type(Name);
-    SelectNegative(F.OptionSetLat, Latitude < 0.0);
-    SelectNegative(F.OptionSetLong, Longitude < 0.0);
-    FillLatitudeDegrees();
-    SelectMinutes(F.ComboSetLatDeg, F.ComboSetLatMin, Latitude);
-    SelectMinutes(F.ComboSetLongDeg, F.ComboSetLongMin, Longitude);
+    FormConfigure.ComboCityName.Type(Name);
+    ShowPlaceInLists(InMinutes(Latitude, Latitude < 0.0 ? 69 : 79), InMinutes(Longitude, 179));
+    ZoneFromLocation();
 }
 
 void ComboCityName_Click() {
-    ConfigureForm& F = FormConfigure;
+    const ConfigureForm& F = FormConfigure;
     if (F.ComboCityName.ListIndex < 0) return;
     const auto Row = static_cast<std::size_t>(F.ComboCityName.ItemData(F.ComboCityName.ListIndex));
-    SelectNegative(F.OptionSetLat, state.CityLatitude[Row] < 0.0F);
-    SelectNegative(F.OptionSetLong, state.CityLongitude[Row] < 0.0F);
+    ShowPlaceInLists(state.CityLatitude[Row], state.CityLongitude[Row]);
+}
+
+void ShowPlaceInLists(float Latitude, float Longitude) {
+    ConfigureForm& F = FormConfigure;
+    SelectNegative(F.OptionSetLat, Latitude < 0.0F);
+    SelectNegative(F.OptionSetLong, Longitude < 0.0F);
     FillLatitudeDegrees();
-    ShowCoordinate(F.ComboSetLatDeg, F.ComboSetLatMin, state.CityLatitude[Row]);
-    ShowCoordinate(F.ComboSetLongDeg, F.ComboSetLongMin, state.CityLongitude[Row]);
+    ShowCoordinate(F.ComboSetLatDeg, F.ComboSetLatMin, Latitude);
+    ShowCoordinate(F.ComboSetLongDeg, F.ComboSetLongMin, Longitude);
 }
 
 void OptionSetLat_Click() {
@@ -231,26 +217,37 @@ void ComboSelDay_DropDown() {
     FormConfigure.ComboSelDay.ListIndex = 0;
 }
 
-void TakeLocation() {
-    TakePlace();
-    TakeZone();
+void TakeListedPlace() {
+    const ConfigureForm& F = FormConfigure;
+    state.LocationName = F.ComboCityName.Text;
+    state.LocationLong = Single(ListedCoordinate(F.ComboSetLongDeg, F.ComboSetLongMin));
+    if (F.OptionSetLong[1].Value) state.LocationLong *= -1.0F;
+    state.LocationLat = ListedCoordinate(F.ComboSetLatDeg, F.ComboSetLatMin);
+    if (F.OptionSetLat[1].Value) state.LocationLat *= -1.0;
+}
+
+void TakeListedZone() {
+    const auto Zone = static_cast<std::size_t>(FormConfigure.ComboSelTZ.ListIndex);
+    state.ZoneHours = state.ZoneHoursTable[Zone];
+    state.ZoneText = state.ZoneShortName[Zone];
 }
 
 void CmdConfigureOK_Click() {
-    const ConfigureForm& F = FormConfigure;
+    ConfigureForm& F = FormConfigure;
     state.ConfigSaved = False;
-    TakePlace();
+    TakeListedPlace();
+
     if (F.OptionDateTime[0].Value) {
         TakeSystemTime();
     } else if (YearInRange(F.TextSelYear.Text)) {
         TakeNewTime();
     } else {
         ShowAfterTwoBeeps({"Input Out Of Range", "Year must be from -4000 through +4000: Please re-enter."});
-        host->SetFocus(FormConfigure.TextSelYear);
+        host->SetFocus(F.TextSelYear);
         return;
     }
     state.DaylightHours = F.OptionDaylightSavings[1].Value ? 1 : 0;
-    TakeZone();
+    TakeListedZone();
     SetInstant();
     RecomputeAlmanac();
     LeaveConfigure();

@@ -29,16 +29,21 @@ void MenuConfigure_Click();
 // What it does before it opens the dialog.
 void ShowConfigurationInForce();
 
-// Picks a city by its row in the table, as the user does in the list of names.
+// Picks a city by its row in the table, 1 to CityCount, and its zone, whether its place was shown already or not.
 void PickCity(std::size_t Row);
 
-// Sets name and place. A latitude beyond the map becomes the last one on it.
+// Sets name, place and zone. A latitude beyond the map becomes the last one on it.
 //   Latitude, Longitude: degrees, north and east positive; taken to the nearest minute
 void PickPlace(const std::string& Name, double Latitude, double Longitude);
 
-// Takes name, place and zone over from the dialog's controls.
-//   Sets:  LocationName, LocationLat, LocationLong, ZoneHours, ZoneText
-void TakeLocation();
+// Shows a place, degrees, north and east positive, in the lists of degrees and minutes. Where ConfigureArmed is True a
+// change of them selects its zone.
+void ShowPlaceInLists(float Latitude, float Longitude);
+
+// The place and the zone that the dialog shows.
+//   Sets:  LocationName, LocationLat, LocationLong; ZoneHours, ZoneText
+void TakeListedPlace();
+void TakeListedZone();
 
 void FormConfigure_Form_Load();
 void ComboCityName_Click();

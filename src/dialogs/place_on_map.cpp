@@ -61,7 +61,8 @@ void ConfigureAt(const Place& Chosen) {
 void GoToCity(std::size_t Row) {
     ShowConfigurationInForce();
     PickCity(Row);
-    TakeLocation();
+    TakeListedPlace();
+    TakeListedZone();
     state.ConfigSaved = False;
     RecomputeAlmanac();
     RedrawMap();

@@ -35,12 +35,16 @@ struct MainForm : Form {
     Menu MenuShowHideSubSundial{MenuShowHide, "MenuShowHideSubSundial", "S&undial"};
     Menu MenuShowHideSubSDSep{MenuShowHide, "MenuShowHideSubSDSep"};
     Menu MenuShowHideSubAlmanac{MenuShowHide, "MenuShowHideSubAlmanac", "Al&manac"};
+    Menu MenuShowHideSubTwilight{MenuShowHide, "MenuShowHideSubTwilight", "Tw&ilight"};
+    Menu MenuShowHideSubTwilightLines{MenuShowHide, "MenuShowHideSubTwilightLines", "Twilight &Lines"};
+    Menu MenuShowHideSubCityNames{MenuShowHide, "MenuShowHideSubCityNames", "City &Names"};
     Menu MenuShowHideSubFullScreen{MenuShowHide, "MenuShowHideSubFullScreen", "&Full Screen"};
     Menu MenuMap{*this, "MenuMap", "&Map"};
     Menu MenuMapSubNatural{MenuMap, "MenuMapSubNatural", "&Natural"};
     Menu MenuMapSubNaturalSep{MenuMap, "MenuMapSubNaturalSep"};
     Menu MenuMapSubPolitical{MenuMap, "MenuMapSubPolitical", "&Political"};
     Menu MenuMapSubPoliticalSub{MenuMap, "MenuMapSubPoliticalSub"};
+    Menu MenuMapSubTerrain{MenuMap, "MenuMapSubTerrain", "&Terrain"};
     Menu MenuAnimation{*this, "MenuAnimation", "&Animation"};
     Menu MenuAnimationSubOptions{MenuAnimation, "MenuAnimationSubOptions", "&Settings"};
     Menu MenuAnimationSubSetSep{MenuAnimation, "MenuAnimationSubSetSep"};

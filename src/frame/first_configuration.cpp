@@ -41,7 +41,8 @@ bool SetFirstConfiguration(const std::string& Zone, int SecondsEast, const std::
     } else {
         PickPlace(City->Name, City->Latitude, City->Longitude);
     }
-    TakeLocation();
+    TakeListedPlace();
+    TakeListedZone();
     state.DaylightHours = std::lround(SecondsEast + state.ZoneHours * 3600.0) == 3600 ? 1 : 0;
     return true;
 }

@@ -29,24 +29,34 @@ std::array<ShowHideItem, 7> ShowHideItems() {
              {F.MenuShowHideSubSundial, state.ShowSundial}}};
 }
 
+// The program's own, which no configuration file holds.
+std::array<ShowHideItem, 3> OwnItems() {
+    MainForm& F = FormGTMain;
+    return {{{F.MenuShowHideSubTwilight, extras.TwilightShown},
+             {F.MenuShowHideSubTwilightLines, extras.TwilightLinesShown},
+             {F.MenuShowHideSubCityNames, extras.CityNamesShown}}};
+}
+
 void ShowOrHide(const ShowHideItem& Command) {
     Command.Flag = Command.Flag == True ? False : True;
     Command.Item.Checked = Command.Flag == True;
-    state.ConfigSaved = False;
     RedrawMap();
 }
 
 void CheckMapType() {
     MainForm& F = FormGTMain;
-    F.MenuMapSubNatural.Checked = state.MapType == 0;
+    F.MenuMapSubNatural.Checked = state.MapType == 0 && extras.TerrainShown == False;
+    F.MenuMapSubTerrain.Checked = state.MapType == 0 && extras.TerrainShown == True;
     F.MenuMapSubPolitical.Checked = state.MapType == 1;
     for (Label* Each : {&F.LabelMouseLat, &F.LabelMouseLong, &F.LabelAnimInfo, &F.LabelAnimSteps, &F.LabelCity}) {
         Each->ForeColor = QBColor(14);
     }
 }
 
-void ChangeMapType(std::int16_t NewType) {
+void ChangeMapType(std::int16_t NewType, Boolean Terrain) {
     state.MapType = NewType;
+    extras.TerrainShown = Terrain;
+    SaveExtras();
     FormGTMain.LabelWorking.Visible = true;
     CheckMapType();
     FormGTMain.Timer4.Enabled = true;
@@ -56,18 +66,29 @@ void ChangeMapType(std::int16_t NewType) {
 
 void ConnectMenus() {
     for (const ShowHideItem& Command : ShowHideItems()) {
-        Command.Item.Click = [Command] { ShowOrHide(Command); };
+        Command.Item.Click = [Command] {
+            state.ConfigSaved = False;
+            ShowOrHide(Command);
+        };
+    }
+    for (const ShowHideItem& Command : OwnItems()) {
+        Command.Item.Click = [Command] {
+            ShowOrHide(Command);
+            SaveExtras();
+        };
     }
     FormGTMain.MenuShowHideSubAlmanac.Click = MenuShowHideSubAlmanac_Click;
     FormGTMain.MenuShowHideSubFullScreen.Click = [] { FormGTMain.FullScreen = !FormGTMain.FullScreen; };
     FormGTMain.FullScreenChanged = [] { FormGTMain.MenuShowHideSubFullScreen.Checked = FormGTMain.FullScreen; };
     FormGTMain.MenuMapSubNatural.Click = MenuMapSubNatural_Click;
     FormGTMain.MenuMapSubPolitical.Click = MenuMapSubPolitical_Click;
+    FormGTMain.MenuMapSubTerrain.Click = MenuMapSubTerrain_Click;
     FormGTMain.MenuHelpSubContents.Click = MenuHelpSubContents_Click;
 }
 
 void ShowChecks() {
     for (const ShowHideItem& Command : ShowHideItems()) Command.Item.Checked = Command.Flag == True;
+    for (const ShowHideItem& Command : OwnItems()) Command.Item.Checked = Command.Flag == True;
     FormGTMain.MenuShowHideSubAlmanac.Checked = extras.AlmanacShown == True;
     CheckMapType();
 }
@@ -79,8 +100,9 @@ void MenuShowHideSubAlmanac_Click() {
     SaveExtras();
 }
 
-void MenuMapSubNatural_Click() { ChangeMapType(0); }
-void MenuMapSubPolitical_Click() { ChangeMapType(1); }
+void MenuMapSubNatural_Click() { ChangeMapType(0, False); }
+void MenuMapSubPolitical_Click() { ChangeMapType(1, False); }
+void MenuMapSubTerrain_Click() { ChangeMapType(0, True); }
 void MenuHelpSubContents_Click() { host->ShowHelp("GT401.hlp"); }
 
 }  // namespace gloamtide

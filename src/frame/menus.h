@@ -16,10 +16,11 @@ void ShowChecks();
 void MenuShowHideSubAlmanac_Click();
 
 // The map type commands only prepare the rebuild; Timer4 does it a tenth of a second later, so that the user sees
-// LabelWorking meanwhile. The type in force is rebuilt again.
-//   Sets:  MapType
+// LabelWorking meanwhile. The type in force is rebuilt again. Terrain stands in the natural map's place.
+//   Sets:  MapType; TerrainShown of the extras
 void MenuMapSubNatural_Click();
 void MenuMapSubPolitical_Click();
+void MenuMapSubTerrain_Click();
 
 // Asks the host for the help file; where there is none nothing happens.
 void MenuHelpSubContents_Click();

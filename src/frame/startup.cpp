@@ -121,6 +121,7 @@ void FormSplash_Form_Load() {
 void FormGTMain_Form_Load() {
     // The configuration, and what the window shows of it.
     FindConfiguration();
+    ConfigurationRead();
     ShowPathInTitle(state.ConfigFilePath);
     ShowChecks();
     FormAnimation.Load();

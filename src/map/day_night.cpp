@@ -5,12 +5,15 @@
 #include "astro/degrees.h"
 #include "forms/form_gt_main.h"
 #include "forms/form_pictures.h"
+#include "map/city_names.h"
 #include "map/geometry.h"
 #include "map/graticule.h"
 #include "map/hour_ruler.h"
 #include "map/moon_disc.h"
 #include "map/stored_pictures.h"
 #include "map/sun_overlays.h"
+#include "map/twilight.h"
+#include "state/extras.h"
 #include "state/numbers.h"
 #include "sundial/dial.h"
 
@@ -84,14 +87,30 @@ void LayDayRows() {
     }
 }
 
+// The edge between day and night is soft where the user asks for it, and on the terrain.
+void LayDay() {
+    if (extras.TwilightShown == True || state.MapTypeShown == TerrainMap) {
+        LayTwilight();
+        return;
+    }
+    StartStrips();
+    if (FormPictures.PictureNightSplit.Density == 1.0) {
+        LayDayStrips();
+    } else {
+        LayDayRows();
+    }
+}
+
 // The order decides what covers what.
 void DrawOverlays() {
+    if (extras.TwilightLinesShown == True) DrawTwilightLines();
     if (state.ShowSun == True) DrawSunMarker();
     if (state.ShowMoon == True) DrawMoonDisc();
     if (state.ShowAnalemma == True) DrawAnalemma();
     if (state.ShowTimezones == True) DrawZoneHourRuler();
     FormGTMain.LabelZonehour.Visible = state.ShowTimezones == True;
     if (state.ShowMapGrid == True) DrawMapGrid();
+    if (extras.CityNamesShown == True) DrawCityNames();
     DrawDateBand();
     if (state.ShowSundial == True) DrawSundial();
     FormGTMain.PictureSundial.Visible = state.ShowSundial == True;
@@ -112,12 +131,7 @@ void BlitDayStrip() {
 void RedrawMap() {
     RotateMap();
     RotateDayAndNight();
-    StartStrips();
-    if (FormPictures.PictureNightSplit.Density == 1.0) {
-        LayDayStrips();
-    } else {
-        LayDayRows();
-    }
+    LayDay();
     DrawOverlays();
     FormGTMain.PictureGT.TakePicture(FormPictures.PictureNightSplit.Picture);
 }

@@ -4,7 +4,8 @@
 namespace gloamtide {
 
 // Builds the whole picture of the map and shows it.
-//   Reads:  GreenwichHour, GreenwichMinute, SunDeclination, TanSunDeclination, EquationOfTimeMapShift, the Show flags
+//   Reads:  GreenwichHour, GreenwichMinute, SunDeclination, TanSunDeclination, EquationOfTimeMapShift, the Show flags,
+//           MapTypeShown; TwilightShown and TwilightLinesShown of the extras
 //   Sets:   RotationHour, MapShift, the working state of the strips; the picture of FormGTMain.PictureGT
 void RedrawMap();
 

@@ -14,6 +14,7 @@ namespace gloamtide {
 void DrawZoneHourRuler() {
     PictureSurface& Map = FormPictures.PictureNightSplit;
     Map.ForeColor = RGB(255, 255, 127);
+    Map.TextRimmed = true;
     Map.FontName = state.ScreenClass == 3 ? "MS Sans Serif" : "MS Serif";
     Map.FontSize = state.ScreenClass == 3 ? 8.0 : 7.0;
     state.HourRulerHalfText = Single(Map.TextWidth("00") / 2.0);

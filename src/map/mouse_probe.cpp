@@ -3,6 +3,7 @@
 #include <cmath>
 #include <string>
 
+#include "astro/subpoint.h"
 #include "forms/form_gt_main.h"
 #include "map/geometry.h"
 #include "state/number_pattern.h"
@@ -39,6 +40,30 @@ std::string CityNear(double Longitude, double Latitude) {
     return "";
 }
 
+std::string TenthsOf(double Degrees, const char* Positive, const char* Negative) {
+    return FormatNumber(std::abs(Degrees), "##0.0") + (Degrees < 0.0 ? Negative : Positive);
+}
+
+std::string Overhead(const EarthPoint& Place) {
+    return "overhead " + TenthsOf(Place.Latitude, " N", " S") + ", " + TenthsOf(Place.Longitude, " E", " W");
+}
+
+// Whether the pointer is on a mark, its rays included. Hour: local time at the mark's place on the map.
+bool IsOnMark(float X, float Y, float Hour, double Latitude) {
+    const double Right = X - HourToMapX(Hour);
+    const double Up = (Y - Latitude) * state.MapHeight / 150.0;
+    return std::hypot(Right, Up) <= 1.4 * state.MarkerRadiusX;
+}
+
+// Of the marks the Moon's is on top.
+std::string MarkUnder(float X, float Y) {
+    if (state.ShowMoon == True && IsOnMark(X, Y, state.MoonMapHour, state.MoonDeclination)) {
+        return "Moon, " + FormatNumber(state.MoonLitPercent, "##0") + " % lit, " + Overhead(MoonOverhead());
+    }
+    const bool OnSun = IsOnMark(X, Y, 12.0F - state.EquationOfTime / 60.0F, state.SunDeclination);
+    return state.ShowSun == True && OnSun ? "Sun " + Overhead(SunOverhead()) : "";
+}
+
 }  // namespace
 
 void FormGTMain_PictureGT_MouseMove(float X, float Y) {
@@ -46,6 +71,7 @@ void FormGTMain_PictureGT_MouseMove(float X, float Y) {
     const float Longitude = RotatedMapXToLongitude(X);
     F.LabelMouseLat.Caption = "Lat: " + InDegrees(Y, "#0", "  North", "  South");
     F.LabelMouseLong.Caption = "Long: " + InDegrees(Longitude, "##0", "  East", "  West");
+    F.PictureGT.ToolTipText = MarkUnder(X, Y);
     F.LabelCity.Caption = state.ShowCities == True ? CityNear(Longitude, Y) : "";
 }
 

@@ -12,6 +12,7 @@
 #include "map/graticule.h"
 #include "map/zone_lines.h"
 #include "platform/host.h"
+#include "state/extras.h"
 #include "surface/stored_bitmap.h"
 
 namespace gloamtide {
@@ -45,9 +46,9 @@ void Put(PictureSurface& Original, Bitmap Image) {
     Original.Picture = std::move(Image);
 }
 
-void Stretch(PictureSurface& To, PictureSurface& Original) {
+void Stretch(PictureSurface& To, PictureSurface& Original, Averaging Averaged = Averaging::Levels) {
     StretchBlt(To, 0, 0, state.MapWidth, state.MapHeight, Original, 0, 0, Original.Picture.Width,
-               Original.Picture.Height);
+               Original.Picture.Height, Averaged);
 }
 
 // Puts the finer picture on the original's surface, where it stays while the type does: a window whose size changes
@@ -82,6 +83,23 @@ void MakePlain(const MapPictures& Pictures, const MapSource& Source) {
     Source.NightOriginal.Picture = Bitmap();
 }
 
+// The originals are larger than any map but the finest, so they are reduced as light. They stay like a finer picture of
+// the others. False where the host does not decode them: then the natural map serves.
+bool MakeTerrain(const MapPictures& Pictures) {
+    PictureSurface& Day = FormPictures.PictureDayOrig;
+    PictureSurface& Night = FormPictures.PictureNightOrig;
+    const auto Make = [](PictureSurface& Shown, PictureSurface& Original, AssetBytes Stored) {
+        if (Original.Picture.Empty()) Put(Original, host->DecodePicture(Stored));
+        Stretch(Shown, Original, Averaging::Light);
+    };
+    auto MakingNight = std::async(std::launch::async, [&] { Make(Pictures.Night, Night, TerrainNightWebp()); });
+    Make(Pictures.Day, Day, TerrainDayWebp());
+    MakingNight.get();
+    const bool Made = !Day.Picture.Empty() && !Night.Picture.Empty();
+    if (!Made || Pictures.Day.Density <= 1.0) Day.Picture = Night.Picture = Bitmap();
+    return Made;
+}
+
 MapPictures ChooseMapPictures() {
     PicturesForm& F = FormPictures;
     if (state.ShowCities == True && state.ShowTimezones == True) return {F.PictureTZCitiesDay, F.PictureTZCitiesNight};
@@ -110,9 +128,13 @@ void FormPictures_Form_Load() { FormPictures.PictureTZmask.SetPicture(DecodeBmp(
 
 void ResetMapPictures() {
     if (state.MapType != 0 && state.MapType != 1) return;
-    state.MapTypeShown = state.MapType;
+    const bool Terrain = state.MapType == 0 && extras.TerrainShown == True;
+    state.MapTypeShown = Terrain ? TerrainMap : state.MapType;
     EmptyMapPictures();
-    FormPictures.PictureDayOrig.Picture = FormPictures.PicturePolitDayOrig.Picture = Bitmap();
+    PicturesForm& F = FormPictures;
+    for (PictureSurface* Each : {&F.PictureDayOrig, &F.PictureNightOrig, &F.PicturePolitDayOrig}) {
+        Each->Picture = Bitmap();
+    }
 }
 
 MapPictures ShownMapPictures() {
@@ -121,7 +143,11 @@ MapPictures ShownMapPictures() {
     DropOtherMapPictures(Shown);
     Shown.Day.Canvas();
     Shown.Night.Canvas();
-    if (state.MapTypeShown >= 0) MakePlain(Shown, SourceOf(state.MapTypeShown));
+    if (state.MapTypeShown == TerrainMap) {
+        if (!MakeTerrain(Shown)) MakePlain(Shown, SourceOf(0));
+    } else if (state.MapTypeShown >= 0) {
+        MakePlain(Shown, SourceOf(state.MapTypeShown));
+    }
     DrawCityMarks();
     DrawTimeZoneLines();
     return Shown;

@@ -408,6 +408,12 @@ constexpr City Cities[] = {
 };
 // clang-format on
 static_assert(std::size(Cities) == 350);
+
+// The sizes of the largest and of capitals, to name those first.
+constexpr float People[] = {
+#include "places/city_people.inc"
+};
+static_assert(std::size(People) == std::size(Cities));
 static_assert(std::size(Cities) < std::tuple_size_v<decltype(SharedState::CityName)>);
 
 }  // namespace
@@ -420,6 +426,7 @@ void BuildCityTable() {
         state.CityLongitude[Place] = Row.Longitude;
         state.CityLatitude[Place] = Row.Latitude;
         state.CityName[Place] = Row.Name;
+        state.CityPeople[Place] = People[Place - 1];
         FormConfigure.ComboCityName.AddItem(Row.Name);
         FormConfigure.ComboCityName.SetItemData(FormConfigure.ComboCityName.NewIndex, state.CityCount);
     }

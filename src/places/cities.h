@@ -4,7 +4,7 @@
 namespace gloamtide {
 
 // Fills the city table of the shared state and the list of the Configure dialog.
-//   Sets:  CityLongitude, CityLatitude, CityName (rows 1 to CityCount), CityCount
+//   Sets:  CityLongitude, CityLatitude, CityName, CityPeople (rows 1 to CityCount), CityCount
 void BuildCityTable();
 
 }  // namespace gloamtide

@@ -168,7 +168,7 @@ struct SharedState {
     std::int16_t LocationLongMinutes = 0;
 
     // map/stored_pictures
-    std::int16_t MapTypeShown = -1;  // the MapType that the cached pictures were made for
+    std::int16_t MapTypeShown = -1;  // the MapType that the cached pictures were made for; 2: terrain
 
     // map/geometry: set at the start of each redraw
     float RotationHour = 0.0F;  // hours, 0 up to 24
@@ -223,6 +223,7 @@ struct SharedState {
     std::array<float, 401> CityLongitude{};  // degrees, east positive
     std::array<float, 401> CityLatitude{};   // degrees, north positive
     std::array<std::string, 401> CityName;
+    std::array<float, 401> CityPeople{};  // thousands; 0: a smaller town
     std::int16_t CityCount = 0;
 
     // places/zones: rows from 0

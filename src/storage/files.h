@@ -25,4 +25,7 @@ void WriteFile(const std::string& Path, const std::string& Bytes);
 // The same, but what is there and is no regular file, a device or a pipe, is written to instead of being refused.
 void WriteFileOrDevice(const std::string& Path, const std::string& Bytes);
 
+// Throws FileFailure where they cannot all be written, also where the reader has left.
+void WriteStandardOutput(const std::string& Bytes);
+
 }  // namespace gloamtide

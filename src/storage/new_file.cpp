@@ -58,6 +58,11 @@ bool OpenFile::Write(const std::string& Bytes) const {
     return true;
 }
 
+bool OpenFile::WriteAt(std::size_t Place, const std::string& Bytes) const {
+    return pwrite(Descriptor, Bytes.data(), Bytes.size(), static_cast<off_t>(Place)) ==
+           static_cast<ssize_t>(Bytes.size());
+}
+
 bool OpenFile::Reserve(std::size_t Length) const {
     const int Error = posix_fallocate(Descriptor, 0, static_cast<off_t>(Length));
     if (Error != ENOSPC && Error != EDQUOT && Error != EFBIG) return true;

@@ -20,6 +20,7 @@ public:
     bool IsOpen() const { return Descriptor >= 0; }
     bool Reserve(std::size_t Length) const;  // true, too, on a file system that knows no such thing
     bool Write(const std::string& Bytes) const;
+    bool WriteAt(std::size_t Place, const std::string& Bytes) const;  // over bytes that are there
     bool CutAt(std::size_t Length) const;
     void TakePermissions(mode_t Mode) const;  // but for the bits that run a file as its owner; where there are any
     bool Flush() const;                       // to the disk; true, too, on a file system that knows no such thing
@@ -34,6 +35,8 @@ class NewFile : public OpenFile {
 public:
     explicit NewFile(const std::filesystem::path& TheTarget);
     ~NewFile();
+
+    const std::filesystem::path& Path() const { return Name; }  // until it is put in place
 
     // Owner, group and permissions of the old file, but for the bits that run a file as its owner. False where it
     // cannot be given to owner and group.

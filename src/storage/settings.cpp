@@ -12,7 +12,9 @@ struct Setting {
 };
 
 const Setting Settings[] = {
-    {"show/almanac", extras.AlmanacShown},
+    {"show/almanac", extras.AlmanacShown},      {"map/terrain", extras.TerrainShown},
+    {"show/twilight", extras.TwilightShown},    {"show/twilight-lines", extras.TwilightLinesShown},
+    {"show/city-names", extras.CityNamesShown},
 };
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <vector>
 
+#include "surface/linear_light.h"
 #include "surface/picture_surface.h"
 
 namespace gloamtide {
@@ -152,41 +153,80 @@ struct StretchAxis {
     }
 };
 
-// A row between the two passes: red, green, blue times 256 of each pixel in turn.
+// What is averaged: the levels as they are, or the light that they stand for. Both count to 65535.
+struct StoredLevels {
+    static std::uint32_t Of(Color Level) { return Level << 8U; }
+    static Color LevelOf(std::uint32_t Sum) { return Sum >> 8U; }
+    static constexpr std::uint32_t Half = 1U << 7U;  // what rounds to the nearest
+};
+
+struct LightOfLevels {
+    const LinearLight& Tables = LinearLightTables();
+    std::uint32_t Of(Color Level) const { return Tables.Light[Level]; }
+    Color LevelOf(std::uint32_t Sum) const { return Tables.Level[Sum]; }
+    static constexpr std::uint32_t Half = 0;
+};
+
+// A row between the two passes: red, green, blue of each pixel in turn, 0 to 65535.
 using WideRow = std::vector<std::uint32_t>;
 
-WideRow StretchedRow(const Color* Row, const StretchAxis& Columns) {
+template <class Averaged>
+WideRow StretchedRow(const Color* Row, const StretchAxis& Columns, const Averaged& Value) {
     WideRow Result;
     Result.reserve(3 * Columns.Mixes.size());
     for (const Mix& Each : Columns.Mixes) {
-        std::uint64_t RedAndBlue = 0;  // in one product: their sums stay within 24 bits
+        std::uint64_t RedAndBlue = 0;  // in one product: their sums stay within 32 bits
         std::uint32_t Green = 0;
         const Color* From = Row + Each.First;
         for (const std::uint32_t Weight : Each.Weights) {
-            const Color Value = *From++;
-            RedAndBlue += Weight * ((Value & 255U) | std::uint64_t{Value >> 16U & 255U} << 32U);
-            Green += Weight * (Value >> 8U & 255U);
+            const Color Pixel = *From++;
+            RedAndBlue += Weight * (Value.Of(Pixel & 255U) | std::uint64_t{Value.Of(Pixel >> 16U & 255U)} << 32U);
+            Green += Weight * Value.Of(Pixel >> 8U & 255U);
         }
-        Result.push_back(static_cast<std::uint32_t>(RedAndBlue) >> 8U);
-        Result.push_back(Green >> 8U);
-        Result.push_back(static_cast<std::uint32_t>(RedAndBlue >> 40U));
+        Result.push_back(static_cast<std::uint32_t>(RedAndBlue) >> 16U);
+        Result.push_back(Green >> 16U);
+        Result.push_back(static_cast<std::uint32_t>(RedAndBlue >> 48U));
     }
     return Result;
 }
 
-// Sums holds red, green, blue of each pixel in turn, times 2 to the 24th.
-void StoreRow(const WideRow& Sums, const StretchAxis& Columns, Color* Target) {
+// Sums holds red, green, blue of each pixel in turn, times 2 to the 16th.
+template <class Averaged>
+void StoreRow(const WideRow& Sums, const StretchAxis& Columns, Color* Target, const Averaged& Value) {
     for (std::size_t Column = 0; Column < Columns.Mixes.size(); ++Column) {
         if (Columns.Mixes[Column].Weights.empty()) continue;
         const std::uint32_t* Pixel = &Sums[3 * Column];
-        Target[Column] = Pixel[0] >> 24U | (Pixel[1] >> 24U) << 8U | (Pixel[2] >> 24U) << 16U;
+        Target[Column] = Value.LevelOf(Pixel[0] >> 16U) | Value.LevelOf(Pixel[1] >> 16U) << 8U |
+                         Value.LevelOf(Pixel[2] >> 16U) << 16U;
+    }
+}
+
+template <class Averaged>
+void StretchRows(Bitmap& To, const Bitmap& From, const StretchAxis& Columns, const StretchAxis& Rows,
+                 const Averaged& Value) {
+    std::vector<WideRow> Stretched(static_cast<std::size_t>(From.Height));
+    std::size_t Passed = 0;  // the rows of the source that no further row needs: they give their memory back
+    for (std::size_t Row = 0; Row < Rows.Mixes.size(); ++Row) {
+        const Mix& Vertical = Rows.Mixes[Row];
+        if (Vertical.Weights.empty()) continue;
+        while (Passed < static_cast<std::size_t>(Vertical.First))
+            Stretched[Passed++] = WideRow();
+        WideRow Sums(3 * Columns.Mixes.size(), Averaged::Half << 16U);
+        for (std::size_t Step = 0; Step < Vertical.Weights.size(); ++Step) {
+            const std::size_t Needed = static_cast<std::size_t>(Vertical.First) + Step;
+            WideRow& Wide = Stretched[Needed];
+            if (Wide.empty()) Wide = StretchedRow(From.Row(static_cast<int>(Needed)), Columns, Value);
+            const std::uint32_t Weight = Vertical.Weights[Step];
+            for (std::size_t Place = 0; Place < Sums.size(); ++Place) Sums[Place] += Weight * Wide[Place];
+        }
+        StoreRow(Sums, Columns, To.Row(Rows.FirstInside + static_cast<int>(Row)) + Columns.FirstInside, Value);
     }
 }
 
 }  // namespace
 
 void StretchBlt(PictureSurface& Destination, int X, int Y, int Width, int Height, PictureSurface& Source, int SourceX,
-                int SourceY, int SourceWidth, int SourceHeight) {
+                int SourceY, int SourceWidth, int SourceHeight, Averaging Averaged) {
     if (Width < 1 || Height < 1 || SourceWidth < 1 || SourceHeight < 1) return;
     Bitmap& To = Destination.Canvas();
     const Bitmap From = &Source == &Destination ? Source.Canvas() : Bitmap();
@@ -195,21 +235,10 @@ void StretchBlt(PictureSurface& Destination, int X, int Y, int Width, int Height
                               FromPixels.Width);
     const StretchAxis Rows(DeviceExtent(Destination, Y, Height), To.Height, DeviceExtent(Source, SourceY, SourceHeight),
                            FromPixels.Height);
-    std::vector<WideRow> Stretched(static_cast<std::size_t>(FromPixels.Height));
-    std::size_t Passed = 0;  // the rows of the source that no further row needs: they give their memory back
-    for (std::size_t Row = 0; Row < Rows.Mixes.size(); ++Row) {
-        const Mix& Vertical = Rows.Mixes[Row];
-        if (Vertical.Weights.empty()) continue;
-        while (Passed < static_cast<std::size_t>(Vertical.First)) Stretched[Passed++] = WideRow();
-        WideRow Sums(3 * Columns.Mixes.size(), 1U << 23U);  // half a level, for rounding
-        for (std::size_t Step = 0; Step < Vertical.Weights.size(); ++Step) {
-            const std::size_t Needed = static_cast<std::size_t>(Vertical.First) + Step;
-            WideRow& Wide = Stretched[Needed];
-            if (Wide.empty()) Wide = StretchedRow(FromPixels.Row(static_cast<int>(Needed)), Columns);
-            const std::uint32_t Weight = Vertical.Weights[Step];
-            for (std::size_t Place = 0; Place < Sums.size(); ++Place) Sums[Place] += Weight * Wide[Place];
-        }
-        StoreRow(Sums, Columns, To.Row(Rows.FirstInside + static_cast<int>(Row)) + Columns.FirstInside);
+    if (Averaged == Averaging::Levels) {
+        StretchRows(To, FromPixels, Columns, Rows, StoredLevels());
+    } else {
+        StretchRows(To, FromPixels, Columns, Rows, LightOfLevels());
     }
     if (!Columns.Mixes.empty() && !Rows.Mixes.empty()) {
         Destination.Drawn(Columns.FirstInside, Rows.FirstInside,

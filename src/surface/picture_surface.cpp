@@ -8,6 +8,7 @@
 
 #include "platform/host.h"
 #include "state/numbers.h"
+#include "surface/lettering.h"
 
 namespace gloamtide {
 
@@ -229,33 +230,17 @@ long PictureSurface::Point(double X, double Y) const {
     return static_cast<long>(Blank ? BackColor.Get() : Picture.Row(Place->Y)[Place->X]);
 }
 
-namespace {
-
-Color Blend(Color Under, Color Over, int Coverage) {
-    const auto Mix = [Coverage](int Below, int Above) {
-        return (Below * (255 - Coverage) + Above * Coverage + 127) / 255;
-    };
-    return RGB(Mix(RedOf(Under), RedOf(Over)), Mix(GreenOf(Under), GreenOf(Over)), Mix(BlueOf(Under), BlueOf(Over)));
-}
-
-}  // namespace
-
 void PictureSurface::Print(const std::string& Text) {
     const GlyphMask Mask = host->RenderText(CurrentFont(), Text, Density);
     if (const auto Place = PixelAt(CurrentX, CurrentY)) {
+        const int Rim = TextRimmed ? PenOf(1) : 0;
         Bitmap& Target = Canvas();
-        const int FromX = std::max(0, Place->X);
-        const int FromY = std::max(0, Place->Y);
-        const int EndX = std::min(Target.Width, Place->X + Mask.Width);
-        const int EndY = std::min(Target.Height, Place->Y + Mask.Height);
-        for (int Y = FromY; Y < EndY; ++Y) {
-            const std::uint8_t* Coverage =
-                Mask.Coverage.data() + static_cast<std::ptrdiff_t>(Y - Place->Y) * Mask.Width;
-            for (int X = FromX; X < EndX; ++X) {
-                Target.Row(Y)[X] = Blend(Target.Row(Y)[X], ForeColor, Coverage[X - Place->X]);
-            }
-        }
-        if (FromX < EndX && FromY < EndY) Drawn(FromX, FromY, EndX - 1, EndY - 1);
+        LayText(Target, Mask, Place->X, Place->Y, ForeColor, Rim);
+        const int FromX = std::max(0, Place->X - Rim);
+        const int FromY = std::max(0, Place->Y - Rim);
+        const int ToX = std::min(Target.Width, Place->X + Mask.Width + Rim) - 1;
+        const int ToY = std::min(Target.Height, Place->Y + Mask.Height + Rim) - 1;
+        if (FromX <= ToX && FromY <= ToY) Drawn(FromX, FromY, ToX, ToY);
     }
     CurrentX = ScaleX.Origin;
     CurrentY += Mask.Height / Density * ScaleY.Units / ScaleY.Pixels;

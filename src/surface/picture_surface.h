@@ -33,6 +33,7 @@ public:
     DrawStyles DrawStyle = DrawStyles::Solid;
     FillStyles FillStyle = FillStyles::Transparent;
     Color FillColor = RGB(0, 0, 0);
+    bool TextRimmed = false;  // Print gives letters a dark rim where the ground is light
 
     using PictureBox::PictureBox;
 
@@ -90,9 +91,11 @@ void BitBltDevice(PictureSurface& Destination, std::int64_t X, std::int64_t Y, s
 // width. Shift: pixels, 0 to the width; rounded to device pixels once, so that no seam shows.
 void RotateColumns(PictureSurface& Rotated, PictureSurface& Source, int Shift);
 
+enum class Averaging { Levels, Light };  // of the colours as they are written, or of the light that they stand for
+
 // BitBlt with resizing: area-weighted along an axis that shrinks, bilinear along one that grows. A flat colour stays
 // exactly that colour. Parts outside either surface are left out; a size below 1 does nothing.
 void StretchBlt(PictureSurface& Destination, int X, int Y, int Width, int Height, PictureSurface& Source, int SourceX,
-                int SourceY, int SourceWidth, int SourceHeight);
+                int SourceY, int SourceWidth, int SourceHeight, Averaging Averaged = Averaging::Levels);
 
 }  // namespace gloamtide

@@ -75,7 +75,8 @@ TEST_F(Still, TellsInOneLineWhatIsWrongAndLeavesNoFile) {
 
 TEST_F(Still, GetsOnWithTheShell) {
     const QString Begin =
-        "cd $(mktemp -d ./XXXXXX); still() { \"$0\" --at 2026-03-20T12:00:00Z --screen-width 640 \"$@\"; }; ";
+        "cd $(mktemp -d ./XXXXXX); still() { \"$0\" --at 2026-03-20T12:00:00Z --screen-width 640 \"$@\"; }; "
+        "film() { still --until 2026-03-22T12:00:00Z --step ${step:-12h} --only-map --size 97x65 \"$@\"; }; ";
     for (const QString& Line : Stored("still_shell.txt").split('\n', Qt::SkipEmptyParts)) {
         if (Line.startsWith('#')) continue;
         const QStringList Parts = Line.split(" => ");

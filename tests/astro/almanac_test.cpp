@@ -6,6 +6,7 @@
 #include "astro/lunar.h"
 #include "astro/seasons.h"
 #include "astro/solar.h"
+#include "astro/subpoint.h"
 #include "astro/sunrise.h"
 #include "state/state.h"
 #include "tests/vectors.h"
@@ -64,6 +65,22 @@ TEST(Almanac, SunriseAndSunset) {
         const int Tolerance = std::abs(state.LocationLat) > 50.0 ? 3 : 2;  // minutes
         EXPECT_NEAR(state.SunriseHour * 60 + state.SunriseMinute, R.Out["Rise"], Tolerance);
         EXPECT_NEAR(state.SunsetHour * 60 + state.SunsetMinute, R.Out["Set"], Tolerance);
+    }
+}
+
+TEST(Almanac, SunAndMoonOverheadAndTheSunInTheSky) {
+    for (const VectorRow& R : ReadVectors("published_subpoints")) {
+        SCOPED_TRACE(R.Where);
+        At(R.In["CurrentJD"]);
+        R.In.PutIntoState();
+        const EarthPoint Sun = SunOverhead();
+        const EarthPoint Moon = MoonOverhead();
+        EXPECT_NEAR(Sun.Latitude, R.Out["SunLat"], 0.02);
+        EXPECT_NEAR(Sun.Longitude, R.Out["SunLong"], 0.02);
+        EXPECT_NEAR(Moon.Latitude, R.Out["MoonLat"], 0.3);
+        EXPECT_NEAR(Moon.Longitude, R.Out["MoonLong"], 0.5);
+        EXPECT_NEAR(SkyPointOf(Sun).Altitude, R.Out["Altitude"], 0.03);
+        EXPECT_NEAR(SkyPointOf(Sun).Azimuth, R.Out["Azimuth"], 0.05);
     }
 }
 

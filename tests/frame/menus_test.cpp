@@ -1,5 +1,6 @@
 #include "frame/menus.h"
 
+#include "storage/configuration.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {
@@ -17,6 +18,9 @@ TEST_F(Menus, ShowHideItemsMirrorTheirFlags) {
         {F.MenuShowHideSubAnalemma, state.ShowAnalemma}, {F.MenuShowHideSubCities, state.ShowCities},
         {F.MenuShowHideSubMapGrid, state.ShowMapGrid},   {F.MenuShowHideSubTimezones, state.ShowTimezones},
         {F.MenuShowHideSubSundial, state.ShowSundial}};
+    const std::pair<Menu&, Boolean&> OwnItems[] = {{F.MenuShowHideSubTwilight, extras.TwilightShown},
+                                                   {F.MenuShowHideSubTwilightLines, extras.TwilightLinesShown},
+                                                   {F.MenuShowHideSubCityNames, extras.CityNamesShown}};
     const Bitmap Before = F.PictureGT.Picture;
     for (const auto& [Command, Flag] : Items) {
         SCOPED_TRACE(Command.Name);
@@ -30,6 +34,51 @@ TEST_F(Menus, ShowHideItemsMirrorTheirFlags) {
         }
         Command.Click();
     }
+    for (const auto& [Command, Flag] : OwnItems) {
+        SCOPED_TRACE(Command.Name);
+        for (const Boolean New : {True, False}) {
+            state.ConfigSaved = True;
+            Command.Click();
+            EXPECT_EQ(std::tuple(Flag, Command.Checked.Get(), state.ConfigSaved), std::tuple(New, New == True, True));
+            EXPECT_EQ(F.PictureGT.Picture.Pixels != Before.Pixels, New == True);
+            RenewProgram();
+            Start();
+            EXPECT_EQ(std::tuple(Flag, Command.Checked.Get()), std::tuple(New, New == True)) << "after a new start";
+        }
+    }
+}
+
+TEST_F(Menus, TheTerrainStandsInTheNaturalMapsPlace) {
+    const auto Checks = [&] {
+        return std::tuple(F.MenuMapSubNatural.Checked.Get(), F.MenuMapSubPolitical.Checked.Get(),
+                          F.MenuMapSubTerrain.Checked.Get(), state.MapType, state.MapTypeShown);
+    };
+    const auto Natural = std::tuple(true, false, false, 0, 0);
+    const auto Political = std::tuple(false, true, false, 1, 1);
+    const auto Terrain = std::tuple(false, false, true, 0, 2);
+    const auto Choose = [&](Menu& Item) {
+        Item.Click();
+        Desktop.Advance(100);
+    };
+    EXPECT_EQ(Checks(), Natural);
+    Choose(F.MenuMapSubPolitical);
+    state.ConfigFilePath = "political.gtf";
+    SaveConfiguration();
+    const std::vector<Color> Hard = F.PictureGT.Picture.Pixels;
+    Choose(F.MenuMapSubTerrain);
+    EXPECT_EQ(Checks(), Terrain);
+    RenewProgram();
+    Start();
+    EXPECT_EQ(Checks(), Terrain) << "after a new start";
+    Desktop.FileNames = {"political.gtf"};
+    F.MenuFileSubOpen.Click();
+    EXPECT_EQ(Checks(), Political);
+    EXPECT_EQ(F.PictureGT.Picture.Pixels, Hard) << "without the soft edge";
+    Choose(F.MenuMapSubTerrain);
+    EXPECT_NE(F.PictureGT.Picture.Pixels, Hard);
+    Choose(F.MenuMapSubNatural);
+    EXPECT_EQ(Checks(), Natural);
+    EXPECT_EQ(Desktop.Settings["map/terrain"], "false");
 }
 
 // What is built then is held by tests/map/stored_pictures_test.cpp.

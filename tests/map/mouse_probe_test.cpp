@@ -1,5 +1,7 @@
 #include "map/mouse_probe.h"
 
+#include "map/geometry.h"
+#include "state/numbers.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {
@@ -30,6 +32,26 @@ TEST_F(Probe, FindsTheCityThatAPlainReadingFinds) {
             if (OnAnEdge) continue;
             ASSERT_EQ(FormGTMain.LabelCity.Caption, Expected) << Column << ", " << Row;
         }
+    }
+}
+
+// The places of tests/data/published_subpoints.txt, but the Moon's 0.04 degrees beside it, as the program has it.
+TEST_F(Probe, TellsWhereSunAndMoonStandOverhead) {
+    Desktop.ScreenWidth = 1280;
+    Desktop.System = {2026, 12, 1, 21, 20, 50, 0, 0};
+    Start();
+    const auto& Tip = FormGTMain.PictureGT.ToolTipText.Get();
+    const auto Point = [](float Hour, double Latitude, float Aside) {
+        FormGTMain_PictureGT_MouseMove(HourToMapX(Hour) + Aside, Single(Latitude));
+    };
+    for (const Boolean Shown : {True, False}) {
+        state.ShowSun = state.ShowMoon = Shown;
+        Point(12.0F - state.EquationOfTime / 60.0F, state.SunDeclination, 5.0F);
+        EXPECT_EQ(Tip, Shown == True ? "Sun overhead 23.4 S, 132.9 W" : "");
+        Point(state.MoonMapHour, state.MoonDeclination, 0.0F);
+        EXPECT_EQ(Tip, Shown == True ? "Moon, 91 % lit, overhead 24.9 N, 12.7 E" : "");
+        Point(state.MoonMapHour, state.MoonDeclination, 12.0F);
+        EXPECT_EQ(Tip, "");
     }
 }
 

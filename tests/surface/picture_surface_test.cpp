@@ -192,5 +192,14 @@ TEST_F(Surface, TransfersAreClippedAtBothSurfacesAndNeverFlipped) {
     EXPECT_EQ(O.Picture.Row(2)[3], RGB(1, 1, 7));
 }
 
+TEST_F(Surface, LightIsAveragedAndAFlatColourStaysFlat) {
+    O.BackColor = 0;
+    O.Line(0, 0, 0, 29, RGB(200, 100, 50), LineForm::BoxFilled);
+    O.Line(30, 0, 39, 29, RGB(0, 119, 225), LineForm::BoxFilled);
+    StretchBlt(S, 0, 0, 20, 30, O, 0, 0, 40, 30, Averaging::Light);
+    EXPECT_EQ(S.Picture.Row(3)[0], RGB(146, 71, 34)) << "half the light of 200, 100, 50 by IEC 61966-2-1";
+    EXPECT_EQ(S.Picture.Row(3)[17], RGB(0, 119, 225));
+}
+
 }  // namespace
 }  // namespace gloamtide

@@ -1,23 +1,14 @@
-// The program's city table and the zone of each city.
+// The zone of each city.
 
-import { readFileSync } from 'node:fs';
+import { tableOfCities } from './city_table.js';
 import { kmPerDegree, radians } from './geometry.js';
 import { codeOfZone, isSeaZone, zoneAt } from './zones.js';
 
-const table = new URL('../../src/places/cities.cpp', import.meta.url);
-const rows = 350;
-
-// Rows of the table, from 1 on, with the zone at each city's own coordinates and its mask code.
-export function loadCities() {
-    const entries = [...readFileSync(table, 'utf8').matchAll(/\{"([^"]+)",\s*(-?[\d.]+)F,\s*(-?[\d.]+)F\}/g)];
-    if (entries.length !== rows) throw new Error(`${entries.length} cities instead of ${rows}`);
-    return entries.map(([, name, longitude, latitude], i) => {
-        const city = { row: i + 1, name, longitude: Number(longitude), latitude: Number(latitude) };
-        city.zone = zoneOnLand(city);
-        city.code = codeOfZone(city.zone);
-        return city;
-    });
-}
+// Rows of the table with the zone at each city's own coordinates and its mask code.
+export const loadCities = () => tableOfCities().map((city) => {
+    const zone = zoneOnLand(city);
+    return { ...city, zone, code: codeOfZone(zone) };
+});
 
 const searchKm = 60;
 const bearings = 72;

@@ -4,9 +4,10 @@
 
 namespace gloamtide {
 
-void BoardScale::SetFactor(double NewFactor) {
-    if (NewFactor == Value) return;
+void BoardScale::SetFactor(double NewFactor, int LowestLetters) {
+    if (NewFactor == Value && LowestLetters == Lowest) return;
     Value = NewFactor;
+    Lowest = LowestLetters;
     emit Changed();
 }
 

@@ -15,8 +15,8 @@ class BoardScale : public QObject {
 public:
     double Factor() const { return Value; }
     int LowestLetters() const { return Lowest; }
-    void SetFactor(double NewFactor);
-    void SetLowestLetters(int Pixels) { Lowest = Pixels; }  // height below which no letters become
+    // LowestLetters: height below which no letters become, pixels.
+    void SetFactor(double NewFactor, int LowestLetters = 1);
 
     int Place(double Pixels) const { return qRound(Pixels * Value); }
     // The widget's rectangle of a place and size in the program's pixels.

@@ -165,7 +165,9 @@ void FormWindow::FitBoard() {
     const QSizeF Space = Room();
     if (Space.isEmpty() && !FixedScale) return;
     BoardScale& Scale = Watching.Scale;
-    Scale.SetFactor(FixedScale.value_or(ScaleToFit(Size, Space)));
+    // From a screen of 1280 by 720 on all can be read; in a smaller window all is whole.
+    const bool Roomy = !FixedScale && Space.width() >= 1280 && Space.height() >= 600;
+    Scale.SetFactor(FixedScale.value_or(ScaleToFit(Size, Space)), Roomy ? 9 : 1);
     const QSize Shown(Scale.Place(Size.width()), Scale.Place(Size.height()));
     const QSize Around = FixedScale ? QSize() : (Space.toSize() - Shown) / 2;
     Board->setGeometry(QRect(QPoint(std::max(0, Around.width()), std::max(0, Around.height())), Shown));

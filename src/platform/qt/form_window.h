@@ -20,9 +20,6 @@ public:
 
     const Form& ShownForm() const { return Record; }
 
-    // No letters lower than so many pixels.
-    void SetLowestLetters(int Pixels) { Watching.Scale.SetLowestLetters(Pixels); }
-
     // The room for menu bar and board that the window will have when it is shown; so nothing is drawn twice.
     void Expect(const QSize& Room);
 

@@ -80,8 +80,6 @@ void QtHost::ChooseScreen(const std::vector<ProgramScreen>& Screens, const QSize
     for (const ProgramScreen& Each : Screens) {
         if (ScaleToFit(Each.Board, Space) >= 1.0) ChosenWidth = Each.Width;
     }
-    const bool Roomy = Window.width() >= 1280 && Window.height() >= 720 - TitleBarHeight() - MenuBarHeight();
-    LowestLetters = Roomy ? 9 : 1;
 }
 
 void QtHost::KeepSettings(const QString& FileName) {
@@ -215,7 +213,6 @@ Bitmap QtHost::DecodePicture(std::span<const unsigned char> Bytes) {
 void QtHost::FormLoaded(Form& Which) {
     auto* Window = new FormWindow(
         Which, [this](FormWindow& Shown) { Present(Shown); }, Gate);
-    Window->SetLowestLetters(LowestLetters);
     Windows[&Which] = Window;
     if (Which.Menus.empty()) return;
     MainWindow = Window;

@@ -80,7 +80,6 @@ private:
     std::unique_ptr<QSettings> Settings;
     QString SettingsTrouble;        // not told yet
     int ChosenWidth = 0;            // of the screen that the program sees, pixels; 0: the desktop's
-    int LowestLetters = 1;          // pixels
     std::unique_ptr<QWidget> Help;  // once it was asked for
     bool Ended = false;
 };

@@ -11,6 +11,7 @@
 #include "platform/qt/control_watcher.h"
 #include "platform/qt/frame_view.h"
 #include "platform/qt/picture_view.h"
+#include "platform/qt/rimmed_label.h"
 
 namespace gloamtide {
 namespace {
@@ -46,7 +47,7 @@ void Watch(Control& Record, QWidget& Widget, Watchers& Watching, std::function<v
 }
 
 void MakeLabel(Label& Record, QWidget& Parent, Watchers& Watching) {
-    auto* Widget = new QLabel(&Parent);
+    auto* Widget = new RimmedLabel(Record, Parent);
     Widget->setTextFormat(Qt::PlainText);
     Widget->setMouseTracking(true);  // handed on to the picture under it
     Watch(Record, *Widget, Watching, [&Record, Widget] {

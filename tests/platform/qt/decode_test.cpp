@@ -23,6 +23,9 @@ TEST(Decoding, TheFineMapsAndTheirSeaFit) {
         Apart += (Political.Pixels[Pixel] == DaySea) == IsSea && (Natural.Pixels[Pixel] == DaySea) == IsSea ? 0 : 1;
     }
     EXPECT_EQ(Apart, 0);
+    for (const AssetBytes Terrain : {TerrainDayWebp(), TerrainNightWebp()}) {
+        EXPECT_EQ(Desktop.DecodePicture(Terrain).Pixels.size(), Sea.Pixels.size());
+    }
     EXPECT_TRUE(Desktop.DecodePicture(SeaFinePng().first(100)).Empty());
     EXPECT_TRUE(Desktop.DecodePicture({}).Empty());
 }

@@ -149,6 +149,26 @@ TEST_F(Widgets, FieldsWorkBothWays) {
     EXPECT_EQ(std::tuple(Demo.Year.Text.Get(), Year.text()), std::tuple("-4199", "-4199")) << "the cursor stays";
 }
 
+TEST_F(Widgets, LightLettersOnALightPictureHaveADarkRim) {
+    Demo.OnPicture.Size(90.0, 30.0);
+    // The darkest pixel of the label, and whether letters are seen at all.
+    const auto Darkest = [&](Color Ground, Color Letters) {
+        Demo.Picture.Canvas();
+        Demo.Picture.BackColor = Ground;
+        Demo.OnPicture.ForeColor = Letters;
+        const QImage Shown = Find<QWidget>(Demo.Picture).grab(QRect(1, 1, 60, 20)).toImage();
+        int Least = 255;
+        for (int X = 0; X < 60; ++X) {
+            for (int Y = 0; Y < 20; ++Y) Least = std::min(Least, qGray(Shown.pixel(X, Y)));
+        }
+        return Least;
+    };
+    const Color Yellow = RGB(255, 255, 0);
+    EXPECT_LT(Darkest(RGB(250, 250, 250), Yellow), 60);
+    EXPECT_EQ(Darkest(RGB(100, 100, 100), Yellow), 100) << "a dark ground needs none";
+    EXPECT_GE(Darkest(RGB(250, 250, 250), RGB(90, 90, 90)), 90) << "nor do dark letters";
+}
+
 TEST_F(Widgets, AFramesLineIsBrokenByItsCaption) {
     auto& Frame = Find<QGroupBox>(Demo.Choice);
     // Pixels of a row, past the corners, that are not the background.
