@@ -13,7 +13,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/virtual_desktop.sh"
 
 (cd "$Build" && cpack -G DEB -B "$Scratch/package" >"$Scratch/cpack.log") || { cat "$Scratch/cpack.log"; exit 1; }
 Package=$(echo "$Scratch"/package/*.deb)
-lintian --allow-root --fail-on error "$Package"
+lintian --allow-root --fail-on error,warning "$Package"
 
 Root=$Scratch/root
 mkdir -p "$Root/var/lib/dpkg"/{info,updates}
@@ -22,7 +22,7 @@ Dpkg=(dpkg --root="$Root" --force-depends --log=/dev/null)
 "${Dpkg[@]}" --install "$Package" >/dev/null 2>&1
 Desktop=$Root/usr/share/applications/org.gloamtide.Gloamtide.desktop
 desktop-file-validate "$Desktop"
-appstreamcli validate --no-net "$Root"/usr/share/metainfo/*.xml
+appstreamcli validate --pedantic --no-net "$Root"/usr/share/metainfo/*.xml
 (cd "$Scratch" && "$Root/usr/bin/gloamtide-still" picture.png) || Fail "gloamtide-still"
 
 # The menu entry, in an empty home: it shows the place of the computer's time zone, without a question.

@@ -145,6 +145,27 @@ ExpectEnd
 Start "$Program"
 AwaitWindow "Gloamtide ($Home/sunny.gtf)"
 Await '[[ $(Geometry) == "$Left" ]]' 'not where it was left'
+
+# A film is saved beside the running program; one that is not wanted any longer leaves nothing.
+Press alt+a f
+AwaitWindow 'Gloamtide - Save Film'
+Press alt+s
+AwaitWindow 'Save As'
+Type "$Home/large"
+Await '[[ -n $(compgen -G ".gloamtide-*") ]]' 'no film is made'
+Press Escape
+Await '[[ -z $(compgen -G ".gloamtide-*") ]]' 'the film is made on'
+Press alt+z
+xdotool type 96
+Press Tab
+xdotool type 54
+Press alt+s
+AwaitWindow 'Save As'
+Type "$Home/small"
+Await '[[ -s small.webp ]]' 'no film'
+Expect "$(head -c 16 small.webp | tail -c 8) $(ls -- *.webp)" 'WEBPVP8X small.webp'
+Press Escape
+AwaitWindow "Gloamtide ($Home/sunny.gtf)"
 Press alt+q
 ExpectEnd
 echo "set, kept, found again"

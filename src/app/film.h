@@ -20,7 +20,7 @@ struct Film {
 //   Errors: throws FileFailure where the format does not take it or it cannot be written
 void WriteWebP(const Film& Shown, LongFile& File);
 void WriteGif(const Film& Shown, LongFile& File);
-void WriteMp4(const Film& Shown, LongFile& File);   // by ffmpeg
-void WriteWebM(const Film& Shown, LongFile& File);  // by ffmpeg
+void WriteMp4(const Film& Shown, const LongFile& File);   // by ffmpeg
+void WriteWebM(const Film& Shown, const LongFile& File);  // by ffmpeg
 
 }  // namespace gloamtide

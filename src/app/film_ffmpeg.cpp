@@ -30,7 +30,7 @@ QStringList ArgumentsFor(const Film& Shown, const QSize& Size, const QStringList
     return Arguments << "file:" + QString::fromStdString(File.ScratchPath().string());
 }
 
-void WriteByFfmpeg(const Film& Shown, LongFile& File, const QStringList& Coding) {
+void WriteByFfmpeg(const Film& Shown, const LongFile& File, const QStringList& Coding) {
     const QString Program = QStandardPaths::findExecutable("ffmpeg");
     if (Program.isEmpty()) throw FileFailure("MP4 and WebM take ffmpeg; install the package ffmpeg, or make a .webp");
     QProcess Ffmpeg;
@@ -56,14 +56,14 @@ const QStringList ColorTags = {"-colorspace", "bt709", "-color_primaries", "bt70
 
 }  // namespace
 
-void WriteMp4(const Film& Shown, LongFile& File) {
+void WriteMp4(const Film& Shown, const LongFile& File) {
     WriteByFfmpeg(Shown, File,
                   QStringList{"-vf", ToVideoColors + ",pad=ceil(iw/2)*2:ceil(ih/2)*2", "-c:v", "libx264", "-pix_fmt",
                               "yuv420p", "-crf", "18", "-movflags", "+faststart", "-f", "mp4"} +
                       ColorTags);
 }
 
-void WriteWebM(const Film& Shown, LongFile& File) {
+void WriteWebM(const Film& Shown, const LongFile& File) {
     WriteByFfmpeg(Shown, File,
                   QStringList{"-vf", ToVideoColors, "-c:v", "libvpx-vp9", "-pix_fmt", "yuv444p", "-crf", "24", "-b:v",
                               "0", "-row-mt", "1", "-cpu-used", "4", "-f", "webm"} +

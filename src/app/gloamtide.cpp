@@ -9,8 +9,10 @@
 #endif
 
 #include "app/command_line.h"
+#include "app/film_dialog.h"
 #include "app/screens.h"
 #include "assets/assets.h"
+#include "forms/form_gt_main.h"
 #include "frame/startup.h"
 #include "platform/qt/qt_host.h"
 
@@ -44,6 +46,7 @@ int ShowProgram() {
     Desktop.KeepSettings(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
                          "/gloamtide/gloamtide.ini");
     Desktop.ChooseScreen(ProgramScreens(), QtHost::LargestWindow());
+    FormGTMain.MenuAnimationSubFilm.Click = ShowFilmDialog;
     StartProgram();
     return Desktop.Run();
 }

@@ -25,7 +25,7 @@ Instant InstantOf(const DateTime& Reading) {
     state.WorkDaylightHours = 0;
     DateToJulian();
     const std::int64_t Day = std::llround(state.WorkJD + 0.5);
-    return Day * DaySeconds + Reading.Hour * 3600 + Reading.Minute * 60 + Reading.Second;
+    return Day * DaySeconds + std::int64_t{Reading.Hour} * 3600 + std::int64_t{Reading.Minute} * 60 + Reading.Second;
 }
 
 DateTime ReadingOf(Instant Which) {

@@ -33,11 +33,19 @@ void MakeFilm(const StillOptions& Asked, StillPicture& Program) {
                         },
                         [&](std::int64_t Done) { Told.Tell(Done); }};
     LongFile File(Asked.Picture);
-    const auto Write = Asked.Format == PictureFormat::Gif    ? WriteGif
-                       : Asked.Format == PictureFormat::Mp4  ? WriteMp4
-                       : Asked.Format == PictureFormat::WebM ? WriteWebM
-                                                             : WriteWebP;
-    Write(Shown, File);
+    switch (Asked.Format) {
+        case PictureFormat::Gif:
+            WriteGif(Shown, File);
+            break;
+        case PictureFormat::Mp4:
+            WriteMp4(Shown, File);
+            break;
+        case PictureFormat::WebM:
+            WriteWebM(Shown, File);
+            break;
+        default:
+            WriteWebP(Shown, File);
+    }
     File.PutInPlace();
 }
 

@@ -35,10 +35,10 @@ StillPicture::StillPicture(const StillOptions& TheAsked) : Asked(TheAsked), Desk
     ConfigurationRead = [this] { ChangeConfiguration(Asked); };
     StartProgram();
     ConfigurationRead = nullptr;
-    FormWindow& Window = *Desktop.WindowOf(FormGTMain);
     if (Asked.OnlyMap && !Asked.Size.isEmpty()) {
-        Window.FixScale(
-            std::min(1.0 * Asked.Size.width() / state.MapWidth, 1.0 * Asked.Size.height() / state.MapHeight));
+        Desktop.WindowOf(FormGTMain)
+            ->FixScale(
+                std::min(1.0 * Asked.Size.width() / state.MapWidth, 1.0 * Asked.Size.height() / state.MapHeight));
     }
     if (!Asked.Place.isEmpty()) {
         TakePlace(Asked.Place);

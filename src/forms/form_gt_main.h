@@ -53,6 +53,7 @@ struct MainForm : Form {
     Menu MenuAnimationSubStop{MenuAnimation, "MenuAnimationSubStop", "Sto&p"};
     Menu MenuAnimationSubStopSep{MenuAnimation, "MenuAnimationSubStopSep"};
     Menu MenuAnimationSubNow{MenuAnimation, "MenuAnimationSubNow", "&Now"};
+    Menu MenuAnimationSubFilm{MenuAnimation, "MenuAnimationSubFilm", "Save &Film..."};
     Menu MenuHelp{*this, "MenuHelp", "&Help"};
     Menu MenuHelpSubContents{MenuHelp, "MenuHelpSubContents", "Contents"};
     Menu MenuHelpSubContentsSep{MenuHelp, "MenuHelpSubContentsSep"};

@@ -8,6 +8,7 @@
 
 #include "astro/degrees.h"
 #include "forms/form_pictures.h"
+#include "state/numbers.h"
 #include "state/state.h"
 #include "surface/linear_light.h"
 
@@ -36,7 +37,12 @@ struct Parallel {
 double RowLatitude(double Row, int Rows) { return 80.0 - (Row + 0.5) * 150.0 / Rows; }
 
 // The column where the true Sun stands overhead, a fraction of Columns.
-double NoonColumn(int Columns) { return (0.5 - state.EquationOfTimeMapShift / state.MapWidth) * Columns; }
+double NoonColumn(int Columns) { return (0.5 - double{state.EquationOfTimeMapShift} / state.MapWidth) * Columns; }
+
+// The instant of a file made by hand can be one that has no Sun.
+bool SunIsKnown() {
+    return std::abs(state.SunDeclination) <= 90.0 && std::abs(state.EquationOfTimeMapShift) <= Single(state.MapWidth);
+}
 
 // How much of a pixel is day, by the sine of the Sun's altitude, in steps of equal sines.
 class DayShares {
@@ -79,11 +85,11 @@ public:
 
     void LayRow(const Color* Day, Color* Night, const Parallel& Sun) const {
         // Columns left and right of noon, as if the map went on beyond its seam, once round.
-        const int First = static_cast<int>(std::ceil(Noon - 0.5 * Columns - 0.5));
+        const int First = ToInt32(std::ceil(Noon - 0.5 * Columns - 0.5));
         const int Last = First + Columns - 1;
         const auto Within = [&](double Half) {
-            return std::pair(std::max(First, static_cast<int>(std::ceil(Noon - Half - 0.5))),
-                             std::min(Last, static_cast<int>(std::floor(Noon + Half - 0.5))));
+            return std::pair(std::max(First, ToInt32(std::ceil(Noon - Half - 0.5))),
+                             std::min(Last, ToInt32(std::floor(Noon + Half - 0.5))));
         };
         const auto [FirstLit, LastLit] = Within(Sun.HalfArc(FullNight) * Columns / 360.0);
         const auto [FirstDay, LastDay] =
@@ -176,6 +182,7 @@ void DrawTwilightLine(const TwilightLine& Each) {
 }  // namespace
 
 void LayTwilight() {
+    if (!SunIsKnown()) return;
     const Bitmap& Day = FormPictures.PictureDaySplit.Canvas();
     Bitmap& Night = FormPictures.PictureNightSplit.Canvas();
     const Mixer Row(Night.Width);
@@ -185,6 +192,7 @@ void LayTwilight() {
 }
 
 void DrawTwilightLines() {
+    if (!SunIsKnown()) return;
     PictureSurface& Map = FormPictures.PictureNightSplit;
     Map.DrawWidth = 1;
     Map.DrawStyle = DrawStyles::Solid;

@@ -5,7 +5,8 @@ namespace gloamtide {
 
 // Lays the day of PictureDaySplit over the night of PictureNightSplit with a soft edge: all day from 0.5 degrees above
 // the horizon, all night from 18 below, between them mixed as light by a smoothstep of the altitude.
-//   Reads:  SunDeclination, EquationOfTimeMapShift, MapWidth, MapHeight
+//   Reads:  SunDeclination, EquationOfTimeMapShift, MapWidth
+//   Errors: all night where there is no such Sun, nor are there lines then
 void LayTwilight();
 
 // Draws where the Sun stands 0.833 degrees below the horizon, as it rises or sets, and 6, 12 and 18 degrees, where

@@ -167,11 +167,16 @@ void LoadConfiguration() {
     ShowPathInTitle(state.ConfigOpenPath);
 }
 
-void SaveConfiguration() {
-    const std::string OldBytes = BytesBefore(state.ConfigFilePath);
+std::string ConfigurationBytes() {
     RecordWriter File;
     AllRecords(File);
-    WriteFile(state.ConfigFilePath, File.Bytes + OldBytes.substr(std::min(OldBytes.size(), File.Bytes.size())));
+    return File.Bytes;
+}
+
+void SaveConfiguration() {
+    const std::string OldBytes = BytesBefore(state.ConfigFilePath);
+    const std::string Bytes = ConfigurationBytes();
+    WriteFile(state.ConfigFilePath, Bytes + OldBytes.substr(std::min(OldBytes.size(), Bytes.size())));
     ShowPathInTitle(state.ConfigFilePath);
     state.ConfigSaved = True;
     TellStoredName();

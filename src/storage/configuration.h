@@ -19,6 +19,9 @@ void SetDefaultConfiguration();
 //           name more than 46 bytes; what was read before that stays in the state
 void LoadConfiguration();
 
+// The bytes of a file with the configuration in force.
+std::string ConfigurationBytes();
+
 // Writes the file named by ConfigFilePath and shows its name in the main window's title. A location name is cut at 46
 // bytes of Windows-1252, a character that it lacks becomes "?", and the user is told so.
 // What the file holds beyond its records stays.

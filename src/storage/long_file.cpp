@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <csignal>
 #include <fstream>
+#include <utility>
 
 #include "storage/file_status.h"
 #include "storage/files.h"
@@ -22,7 +23,7 @@ bool CanBeReplaced(const std::optional<struct stat>& Old) {
 
 }  // namespace
 
-LongFile::LongFile(const std::string& ThePath) : Path(ThePath) {
+LongFile::LongFile(std::string ThePath) : Path(std::move(ThePath)) {
     std::signal(SIGXFSZ, SIG_IGN);  // a limit on the size of files is an error like any other
     std::signal(SIGPIPE, SIG_IGN);
     if (Path != "-") {

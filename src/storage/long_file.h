@@ -14,7 +14,7 @@ namespace gloamtide {
 class LongFile {
 public:
     //   Errors: each throws FileFailure where it cannot be written
-    explicit LongFile(const std::string& ThePath);
+    explicit LongFile(std::string ThePath);
     ~LongFile();
 
     const std::filesystem::path& ScratchPath() const;  // where it is written; others may write there, too

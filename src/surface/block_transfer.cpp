@@ -168,12 +168,12 @@ struct LightOfLevels {
 };
 
 // A row between the two passes: red, green, blue of each pixel in turn, 0 to 65535.
-using WideRow = std::vector<std::uint32_t>;
+using WideRow = std::vector<std::uint16_t>;
 
 template <class Averaged>
 WideRow StretchedRow(const Color* Row, const StretchAxis& Columns, const Averaged& Value) {
-    WideRow Result;
-    Result.reserve(3 * Columns.Mixes.size());
+    WideRow Result(3 * Columns.Mixes.size());
+    std::uint16_t* To = Result.data();
     for (const Mix& Each : Columns.Mixes) {
         std::uint64_t RedAndBlue = 0;  // in one product: their sums stay within 32 bits
         std::uint32_t Green = 0;
@@ -183,16 +183,30 @@ WideRow StretchedRow(const Color* Row, const StretchAxis& Columns, const Average
             RedAndBlue += Weight * (Value.Of(Pixel & 255U) | std::uint64_t{Value.Of(Pixel >> 16U & 255U)} << 32U);
             Green += Weight * Value.Of(Pixel >> 8U & 255U);
         }
-        Result.push_back(static_cast<std::uint32_t>(RedAndBlue) >> 16U);
-        Result.push_back(Green >> 16U);
-        Result.push_back(static_cast<std::uint32_t>(RedAndBlue >> 48U));
+        *To++ = static_cast<std::uint16_t>(RedAndBlue >> 16U);
+        *To++ = static_cast<std::uint16_t>(Green >> 16U);
+        *To++ = static_cast<std::uint16_t>(RedAndBlue >> 48U);
     }
     return Result;
 }
 
-// Sums holds red, green, blue of each pixel in turn, times 2 to the 16th.
+// Red, green, blue of each pixel in turn, times 2 to the 16th.
+using SumRow = std::vector<std::uint32_t>;
+
+// Both factors have 16 bits, so that the compiler multiplies many at once; all of the weight is only a shift.
+void AddWeighted(SumRow& Sums, const WideRow& Wide, std::uint32_t Weight) {
+    if (Weight == Unity) {
+        std::transform(Sums.begin(), Sums.end(), Wide.begin(), Sums.begin(),
+                       [](std::uint32_t Sum, std::uint16_t Each) { return Sum + (std::uint32_t{Each} << 16U); });
+    } else {
+        const auto Share = static_cast<std::uint16_t>(Weight);
+        std::transform(Sums.begin(), Sums.end(), Wide.begin(), Sums.begin(),
+                       [=](std::uint32_t Sum, std::uint16_t Each) { return Sum + std::uint32_t{Share} * Each; });
+    }
+}
+
 template <class Averaged>
-void StoreRow(const WideRow& Sums, const StretchAxis& Columns, Color* Target, const Averaged& Value) {
+void StoreRow(const SumRow& Sums, const StretchAxis& Columns, Color* Target, const Averaged& Value) {
     for (std::size_t Column = 0; Column < Columns.Mixes.size(); ++Column) {
         if (Columns.Mixes[Column].Weights.empty()) continue;
         const std::uint32_t* Pixel = &Sums[3 * Column];
@@ -206,18 +220,17 @@ void StretchRows(Bitmap& To, const Bitmap& From, const StretchAxis& Columns, con
                  const Averaged& Value) {
     std::vector<WideRow> Stretched(static_cast<std::size_t>(From.Height));
     std::size_t Passed = 0;  // the rows of the source that no further row needs: they give their memory back
+    SumRow Sums(3 * Columns.Mixes.size());
     for (std::size_t Row = 0; Row < Rows.Mixes.size(); ++Row) {
         const Mix& Vertical = Rows.Mixes[Row];
         if (Vertical.Weights.empty()) continue;
-        while (Passed < static_cast<std::size_t>(Vertical.First))
-            Stretched[Passed++] = WideRow();
-        WideRow Sums(3 * Columns.Mixes.size(), Averaged::Half << 16U);
+        for (; Passed < static_cast<std::size_t>(Vertical.First); ++Passed) Stretched[Passed] = WideRow();
+        std::fill(Sums.begin(), Sums.end(), Averaged::Half << 16U);
         for (std::size_t Step = 0; Step < Vertical.Weights.size(); ++Step) {
             const std::size_t Needed = static_cast<std::size_t>(Vertical.First) + Step;
             WideRow& Wide = Stretched[Needed];
             if (Wide.empty()) Wide = StretchedRow(From.Row(static_cast<int>(Needed)), Columns, Value);
-            const std::uint32_t Weight = Vertical.Weights[Step];
-            for (std::size_t Place = 0; Place < Sums.size(); ++Place) Sums[Place] += Weight * Wide[Place];
+            AddWeighted(Sums, Wide, Vertical.Weights[Step]);
         }
         StoreRow(Sums, Columns, To.Row(Rows.FirstInside + static_cast<int>(Row)) + Columns.FirstInside, Value);
     }

@@ -49,36 +49,31 @@ TEST_F(Menus, ShowHideItemsMirrorTheirFlags) {
 }
 
 TEST_F(Menus, TheTerrainStandsInTheNaturalMapsPlace) {
-    const auto Checks = [&] {
-        return std::tuple(F.MenuMapSubNatural.Checked.Get(), F.MenuMapSubPolitical.Checked.Get(),
-                          F.MenuMapSubTerrain.Checked.Get(), state.MapType, state.MapTypeShown);
+    enum Map { Natural, Political, Terrain };  // as MapTypeShown counts them
+    const Menu* const Items[] = {&F.MenuMapSubNatural, &F.MenuMapSubPolitical, &F.MenuMapSubTerrain};
+    std::vector<Color> Pictures[3];
+    const auto Expect = [&](Map Shown) {
+        for (int Each = 0; Each < 3; ++Each) EXPECT_EQ(Items[Each]->Checked, Each == Shown) << Each;
+        EXPECT_EQ(std::pair(state.MapType == 1, int{state.MapTypeShown}), std::pair(Shown == Political, int{Shown}));
+        if (Pictures[Shown].empty()) Pictures[Shown] = F.PictureGT.Picture.Pixels;
+        EXPECT_EQ(F.PictureGT.Picture.Pixels == Pictures[Shown], true) << Shown;
     };
-    const auto Natural = std::tuple(true, false, false, 0, 0);
-    const auto Political = std::tuple(false, true, false, 1, 1);
-    const auto Terrain = std::tuple(false, false, true, 0, 2);
-    const auto Choose = [&](Menu& Item) {
-        Item.Click();
+    for (const Map Chosen : {Political, Terrain, Natural, Terrain}) {
+        Items[Chosen]->Click();
         Desktop.Advance(100);
-    };
-    EXPECT_EQ(Checks(), Natural);
-    Choose(F.MenuMapSubPolitical);
-    state.ConfigFilePath = "political.gtf";
-    SaveConfiguration();
-    const std::vector<Color> Hard = F.PictureGT.Picture.Pixels;
-    Choose(F.MenuMapSubTerrain);
-    EXPECT_EQ(Checks(), Terrain);
+        Expect(Chosen);
+        state.ConfigFilePath = std::to_string(Chosen) + ".gtf";
+        SaveConfiguration();
+    }
+    EXPECT_NE(Pictures[Terrain], Pictures[Natural]) << "the soft edge";
     RenewProgram();
     Start();
-    EXPECT_EQ(Checks(), Terrain) << "after a new start";
-    Desktop.FileNames = {"political.gtf"};
-    F.MenuFileSubOpen.Click();
-    EXPECT_EQ(Checks(), Political);
-    EXPECT_EQ(F.PictureGT.Picture.Pixels, Hard) << "without the soft edge";
-    Choose(F.MenuMapSubTerrain);
-    EXPECT_NE(F.PictureGT.Picture.Pixels, Hard);
-    Choose(F.MenuMapSubNatural);
-    EXPECT_EQ(Checks(), Natural);
-    EXPECT_EQ(Desktop.Settings["map/terrain"], "false");
+    Expect(Terrain);
+    for (const Map Opened : {Political, Terrain}) {
+        Desktop.FileNames = {std::to_string(Opened) + ".gtf"};
+        F.MenuFileSubOpen.Click();
+        Expect(Opened);
+    }
 }
 
 // What is built then is held by tests/map/stored_pictures_test.cpp.

@@ -21,6 +21,10 @@ double AltitudeAt(double Across, double Latitude) {
     return std::asin(std::clamp(Sine, -1.0, 1.0)) * 180.0 / Pi;
 }
 
+double AltitudeOf(const Bitmap& Map, int X, int Y) {  // of a pixel's middle
+    return AltitudeAt((X + 0.5) / Map.Width, 80.0 - (Y + 0.5) * 150.0 / Map.Height);
+}
+
 // White by day, black by night: the level at an altitude.
 double LevelAt(double Altitude) {
     const double T = std::clamp((Altitude + 18.0) / 18.5, 0.0, 1.0);
@@ -56,51 +60,43 @@ protected:
 
 const std::pair<double, double> Suns[] = {{23.4393, 0.0}, {-23.4393, 7.5}, {12.0, -8.25}, {0.0, 3.0}};
 
-TEST_F(Twilight, EachPixelHasTheLightOfItsAltitude) {
+TEST_F(Twilight, EachPixelHasTheLightOfItsAltitudeAndWithoutASunItIsNight) {
     extras.TwilightShown = True;
     for (const double Density : {1.0, 1.25}) {
         for (const auto& [Declination, Shift] : Suns) {
             const Bitmap& Map = Drawn(Density, RGB(255, 255, 255), Declination, Shift);
             double Worst = 0.0;
-            for (int Y = 0; Y < Map.Height; ++Y) {
-                for (int X = 0; X < Map.Width; ++X) {
-                    const double Altitude = AltitudeAt((X + 0.5) / Map.Width, 80.0 - (Y + 0.5) * 150.0 / Map.Height);
-                    Worst = std::max(Worst, std::abs(RedOf(Map.Row(Y)[X]) - LevelAt(Altitude)));
-                }
+            for (int Pixel = 0; Pixel < Map.Width * Map.Height; ++Pixel) {
+                const double Altitude = AltitudeOf(Map, Pixel % Map.Width, Pixel / Map.Width);
+                Worst = std::max(Worst, std::abs(RedOf(Map.Row(0)[Pixel]) - LevelAt(Altitude)));
             }
             EXPECT_LT(Worst, 2.0) << Declination << " at density " << Density;
         }
     }
+    for (const auto& [Declination, Shift] : {std::pair(std::nan(""), 0.0), {10.0, 1e30}}) {
+        const Bitmap& Map = Drawn(1.0, RGB(255, 255, 255), Declination, Shift);
+        EXPECT_EQ(std::count(Map.Pixels.begin(), Map.Pixels.end(), 0U), std::ssize(Map.Pixels)) << Declination;
+    }
 }
 
-// A pixel belongs to a line where, and only where, an altitude of a line is passed within a pixel or two.
+// A pixel of a line has its altitude to a pixel or two, and each pixel of an altitude has one beside it.
 TEST_F(Twilight, LinesAreWhereTheAltitudesAreAndCrossTheSeamWhole) {
     extras.TwilightLinesShown = True;
     for (const auto& [Declination, Shift] : Suns) {
         const Bitmap& Map = Drawn(1.0, 0, Declination, Shift);
-        const auto Crosses = [&Map](int X, int Y, double Reach) {
-            double Lowest = 90.0;
-            double Highest = -90.0;
-            for (const auto& [Right, Down] : {std::pair(-Reach, 0.0), {Reach, 0.0}, {0.0, -Reach}, {0.0, Reach}}) {
-                const double Latitude = 80.0 - (Y + 0.5 + Down) * 150.0 / Map.Height;
-                const double Altitude = AltitudeAt((X + 0.5 + Right) / Map.Width, Latitude);
-                Lowest = std::min(Lowest, Altitude);
-                Highest = std::max(Highest, Altitude);
-            }
-            const double Lines[] = {-0.833, -6.0, -12.0, -18.0};
-            return std::any_of(std::begin(Lines), std::end(Lines),
-                               [&](double Line) { return Lowest <= Line && Line <= Highest; });
-        };
-        const auto OnLine = [&Map](int X, int Y) { return Map.Row(Y)[X] != 0; };
         int Wrong = 0;
-        for (int Y = 1; Y < Map.Height - 1; ++Y) {
-            for (int X = 1; X < Map.Width - 1; ++X) {
-                bool Near = false;
-                for (const int Down : {-1, 0, 1}) {
-                    Near = Near || OnLine(X - 1, Y + Down) || OnLine(X, Y + Down) || OnLine(X + 1, Y + Down);
-                }
-                Wrong += (OnLine(X, Y) && !Crosses(X, Y, 1.6)) || (Crosses(X, Y, 0.1) && !Near) ? 1 : 0;
+        for (int Pixel = 0; Pixel < Map.Width * (Map.Height - 2); ++Pixel) {
+            const int X = Pixel % Map.Width;
+            const int Y = Pixel / Map.Width + 1;
+            double Apart = 90.0;
+            for (const double Line : {-0.833, -6.0, -12.0, -18.0}) {
+                Apart = std::min(Apart, std::abs(AltitudeOf(Map, X, Y) - Line));
             }
+            const auto OnLine = [&](int Right, int Down) {
+                return Map.Row(Y + Down)[(X + Right + Map.Width) % Map.Width] != 0;
+            };
+            const bool Beside = OnLine(1, 0) || OnLine(-1, 0) || OnLine(0, 1) || OnLine(0, -1);
+            Wrong += OnLine(0, 0) ? Apart > 0.8 : Apart < 0.05 && !Beside;
         }
         EXPECT_EQ(Wrong, 0) << Declination;
     }
