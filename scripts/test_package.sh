@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Makes the Debian package of a build folder, checks it, installs it into a scratch root, starts the program from there
-# as the desktop's menu would, and removes it again. Takes root, for the files' owner. Exit 77: something is missing here.
+# Makes the Debian package of a build folder, checks it, installs it into a scratch root, uses the program from there as
+# someone does who starts it from the desktop's menu for the first time, and removes it again. Takes root, for the files'
+# owner. Exit 77: something is missing here.
 set -euo pipefail
 
 Build=$(cd "$1" && pwd)
@@ -24,19 +25,62 @@ desktop-file-validate "$Desktop"
 appstreamcli validate --pedantic --no-net "$Root"/usr/share/metainfo/*.xml
 (cd "$Scratch" && "$Root/usr/bin/gloamtide-still" picture.png) || Fail "gloamtide-still"
 
-# The menu entry, in a home of its own.
-export HOME=$Scratch/home PATH=$Root/usr/bin:$PATH
+# The menu entry, in an empty home: it shows the place of the computer's time zone, without a question.
+export HOME=$Scratch/home PATH=$Root/usr/bin:$PATH TZ=Europe/Berlin
 mkdir -p "$HOME"
 StartDisplay 1024x768
-Start "$Root$(sed -n 's/^Exec=//p' "$Desktop")"
+Folder=$XDG_CONFIG_HOME/gloamtide
+Configuration=$Folder/home.gtf
+StartFromMenu() {
+    Start "$Root$(sed -n 's/^Exec=//p' "$Desktop")"
+    AwaitWindow "Gloamtide ($Configuration)"
+}
+NameIn() { tail -c +675 "$1" | head -c "$(Record u2 15 "$1")"; }
+SaveAgain() {
+    rm "$Configuration"
+    Press ctrl+s
+    Await '[[ $(stat -c %s "$Configuration" 2>/dev/null) == 1008 ]]' 'not saved'
+}
+StartFromMenu
+Expect "$(NameIn "$Configuration")" 'Berlin, Germany'
+Expect "$(Record f4 2 "$Configuration")" -1
+Expect "$(Record d2 7 "$Configuration") $(Record d2 9 "$Configuration") $(Record d2 10 "$Configuration")" '-1 -1 -1'
+
+# A city is found by the beginning of its name, time goes by keys, and Now leads back.
+Press ctrl+comma
+AwaitWindow 'Gloamtide - Configure'
+xdotool type --delay 60 tok
+Press Down Return Return
+AwaitWindow "Gloamtide ($Configuration)"
+Press Home Shift+Left Right Right
+SaveAgain
+Expect "$(NameIn "$Configuration")" 'Tokyo, Japan'
+Offset=$(Record f8 1 "$Configuration")  # days
+Expect "${Offset:0:9}" -0.916666
+Press Page_Up ctrl+n
+SaveAgain
+Expect "$(Record f8 1 "$Configuration")" 0
+Press ctrl+q
+ExpectEnd
+Expect "$(cat "$Folder/Startup.dat")" "\"$Configuration\""$'\r'
+StartFromMenu
+Expect "$(NameIn "$Configuration")" 'Tokyo, Japan'
+Press ctrl+q
+ExpectEnd
+
+# Where no folder can be made for it, it starts all the same, where it is.
+cd "$Scratch"
+XDG_CONFIG_HOME=/proc/none Start "$Root$(sed -n 's/^Exec=//p' "$Desktop")" 2>"$Scratch/said"
 AwaitWindow 'File Not Found'
 Press Return
-AwaitWindow 'Gloamtide ('
-Press alt+q
+AwaitWindow 'Settings'
+Press Return
+AwaitWindow 'Gloamtide (Config File not found'
+grep -q "works in $Scratch instead" "$Scratch/said" || Fail "it did not say so"
+Press ctrl+q
 AwaitWindow 'Save Configuration?'
 Press alt+n
 ExpectEnd
-[[ -f $XDG_CONFIG_HOME/gloamtide/Startup.dat ]] || Fail "no start-up file in the user's folder"
 
 "${Dpkg[@]}" --remove gloamtide >/dev/null 2>&1
 Left=$(find "$Root" -path "$Root/var" -prune -o -type f -print)

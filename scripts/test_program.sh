@@ -20,12 +20,6 @@ Type() {
     Press Return
 }
 
-# $1: what it is, $2: what it has to be
-Expect() { [[ $1 == "$2" ]] || Fail "$1 instead of $2"; }
-
-# $1: a number's format for od and its bytes, $2: its record in the file $3, counted from 1
-Record() { od -An -t "$1" -j $((48 * ($2 - 1))) -N "${1: -1}" "$3" | tr -d ' '; }
-
 export ASAN_OPTIONS=detect_leaks=0  # the system's message bus library leaks where it connects
 StartDisplay 1280x1024
 mkdir "$Home"

@@ -56,3 +56,9 @@ Start() {
 ExpectEnd() { wait "$Process" || Fail "the program did not end well"; }
 
 Press() { xdotool key --delay 60 "$@"; }
+
+# $1: what it is, $2: what it has to be
+Expect() { [[ $1 == "$2" ]] || Fail "$1 instead of $2"; }
+
+# $1: a number's format for od and its bytes, $2: its record in the configuration file $3, counted from 1
+Record() { od -An -t "$1" -j $((48 * ($2 - 1))) -N "${1: -1}" "$3" | tr -d ' '; }

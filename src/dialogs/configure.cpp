@@ -40,6 +40,12 @@ void ShowCoordinate(ComboBox& Degrees, ComboBox& Minutes, float Coordinate) {
     Minutes.ListIndex = ToInt16(std::floor((Magnitude + 0.005 - Whole) * 60.0));
 }
 
+// The nearest minute, at most the last one of so many degrees.
+float InMinutes(double Coordinate, int Degrees) {
+    const double LastMinute = Degrees + 59.0 / 60.0;
+    return Single(RoundHalfEven(std::clamp(Coordinate, -LastMinute, LastMinute) * 60.0) / 60.0);
+}
+
 double ListedCoordinate(const ComboBox& Degrees, const ComboBox& Minutes) {
     return Minutes.ListIndex / 60.0 + Degrees.ListIndex;
 }
@@ -130,6 +136,12 @@ void FormConfigure_Form_Load() {
 }
 
 void MenuConfigure_Click() {
+    ShowConfigurationInForce();
+    FormConfigure.Show();
+    FormGTMain.Hide();
+}
+
+void ShowConfigurationInForce() {
     ConfigureForm& F = FormConfigure;
     F.ComboCityName.Type(state.LocationName);
     state.ConfigureArmed = False;
@@ -151,8 +163,20 @@ void MenuConfigure_Click() {
     SelectNearest(F.ComboSelMinute, ToInt16(state.LocalMinute));
     if (state.DaylightHours == 0) F.OptionDaylightSavings[0].Value = true;
     if (state.DaylightHours == 1) F.OptionDaylightSavings[1].Value = true;
-    F.Show();
-    FormGTMain.Hide();
+}
+
+void PickCity(std::size_t Row) {
+    ComboBox& Names = FormConfigure.ComboCityName;
+    int Position = 0;
+    while (Names.ItemData(Position) != static_cast<int>(Row)) ++Position;
+    Names.Pick(Position);
+    ZoneFromLocation();
+}
+
+void PickPlace(const std::string& Name, double Latitude, double Longitude) {
+    FormConfigure.ComboCityName.Type(Name);
+    ShowPlaceInLists(InMinutes(Latitude, Latitude < 0.0 ? 69 : 79), InMinutes(Longitude, 179));
+    ZoneFromLocation();
 }
 
 void ComboCityName_Click() {

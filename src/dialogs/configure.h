@@ -4,6 +4,9 @@
 // set in the lists of degrees and minutes; each change of them selects the zone of the place.
 #pragma once
 
+#include <cstddef>
+#include <string>
+
 namespace gloamtide {
 
 // Joins the dialog's controls with their handlers, and the menu item that opens it.
@@ -22,6 +25,16 @@ void FillLatitudeDegrees();
 //           DaylightHours
 //   Sets:   ConfigureArmed
 void MenuConfigure_Click();
+
+// What it does before it opens the dialog.
+void ShowConfigurationInForce();
+
+// Picks a city by its row in the table, 1 to CityCount, and its zone, whether its place was shown already or not.
+void PickCity(std::size_t Row);
+
+// Sets name, place and zone. A latitude beyond the map becomes the last one on it.
+//   Latitude, Longitude: degrees, north and east positive; taken to the nearest minute
+void PickPlace(const std::string& Name, double Latitude, double Longitude);
 
 // Shows a place, degrees, north and east positive, in the lists of degrees and minutes. Where ConfigureArmed is True a
 // change of them selects its zone.

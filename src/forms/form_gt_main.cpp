@@ -17,7 +17,14 @@ MainForm::MainForm() : Form("FormGTMain", 0.0, 0.0) {
     PictureGT.Description = "World map";
     PictureGTContainer.Description = "World map and almanac";
 
+    MenuFileSubOpen.Shortcut = "Ctrl+O";
+    MenuFileSubSave.Shortcut = "Ctrl+S";
+    MenuFileSubSaveAs.Shortcut = "Ctrl+Shift+S";
+    MenuFileSubQuit.Shortcut = "Ctrl+Q";
+    MenuConfigure.Shortcut = "Ctrl+,";
     MenuShowHideSubFullScreen.Shortcut = "F11";
+    MenuAnimationSubNow.Shortcut = "Ctrl+N";
+    MenuHelpSubContents.Shortcut = "F1";
     DesignPanels();
     DesignSundial();
 

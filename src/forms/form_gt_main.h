@@ -51,13 +51,15 @@ struct MainForm : Form {
     Menu MenuAnimationSubStart{MenuAnimation, "MenuAnimationSubStart", "&Start"};
     Menu MenuAnimationSubStartSep{MenuAnimation, "MenuAnimationSubStartSep"};
     Menu MenuAnimationSubStop{MenuAnimation, "MenuAnimationSubStop", "Sto&p"};
-    Menu MenuAnimationSubFilmSep{MenuAnimation, "MenuAnimationSubFilmSep"};
+    Menu MenuAnimationSubStopSep{MenuAnimation, "MenuAnimationSubStopSep"};
+    Menu MenuAnimationSubNow{MenuAnimation, "MenuAnimationSubNow", "&Now"};
     Menu MenuAnimationSubFilm{MenuAnimation, "MenuAnimationSubFilm", "Save &Film..."};
     Menu MenuHelp{*this, "MenuHelp", "&Help"};
     Menu MenuHelpSubContents{MenuHelp, "MenuHelpSubContents", "Contents"};
     Menu MenuHelpSubContentsSep{MenuHelp, "MenuHelpSubContentsSep"};
     Menu MenuHelpSubAbout{MenuHelp, "MenuHelpSubAbout", "&About Gloamtide"};
     Menu MenuQuit{*this, "MenuQuit", "&Quit"};
+    BarButton ButtonNow{*this, "ButtonNow", "Now"};  // while another instant than the present is shown
 
     PictureSurface PictureGTContainer{*this, "PictureGTContainer"};
     Label LabelEastOfIDLDate{PictureGTContainer, "LabelEastOfIDLDate"};

@@ -8,6 +8,7 @@
 #include "dialogs/about_and_splash.h"
 #include "dialogs/animation_settings.h"
 #include "dialogs/configure.h"
+#include "dialogs/place_on_map.h"
 #include "dialogs/sundial_options.h"
 #include "forms/form_animation.h"
 #include "forms/form_configure.h"
@@ -50,6 +51,7 @@ void ConnectHandlers() {
     FormGTMain.PictureGT.MouseMove = FormGTMain_PictureGT_MouseMove;
     ConnectMenus();
     ConnectConfigure();
+    ConnectPlaceOnMap();
     ConnectAnimation();
     ConnectAnimationSettings();
     ConnectSundialOptions();

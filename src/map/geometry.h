@@ -34,6 +34,15 @@ Number LongitudeToRotatedMapX(Number Longitude) {
     return X > Number(state.MapWidth) ? X - Number(state.MapWidth) : X;
 }
 
+// Degrees of longitude of an X of the map as it was rotated by the last redraw.
+template <std::floating_point Number>
+Number RotatedMapXToLongitude(Number X) {
+    const Number Width = state.MapWidth;
+    Number Unrotated = Width + X - Number(state.MapShift);
+    if (Unrotated > Width) Unrotated -= Width;
+    return MapXToLongitude(Unrotated);
+}
+
 // X of a local mean time in hours on the rotated map: 0 at the left edge, 12 in the middle, 24 at the right edge.
 template <std::floating_point Number>
 Number HourToMapX(Number Hour) {

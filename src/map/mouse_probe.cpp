@@ -68,10 +68,7 @@ std::string MarkUnder(float X, float Y) {
 
 void FormGTMain_PictureGT_MouseMove(float X, float Y) {
     MainForm& F = FormGTMain;
-    const float Width = state.MapWidth;
-    float Unrotated = Width + X - Single(state.MapShift);
-    if (Unrotated > Width) Unrotated -= Width;
-    const float Longitude = MapXToLongitude(Unrotated);
+    const float Longitude = RotatedMapXToLongitude(X);
     F.LabelMouseLat.Caption = "Lat: " + InDegrees(Y, "#0", "  North", "  South");
     F.LabelMouseLong.Caption = "Long: " + InDegrees(Longitude, "##0", "  East", "  West");
     F.PictureGT.ToolTipText = MarkUnder(X, Y);

@@ -5,6 +5,7 @@
 
 #include "astro/lunar.h"
 #include "forms/form_gt_main.h"
+#include "panel/now_button.h"
 #include "state/number_pattern.h"
 #include "state/numbers.h"
 #include "state/state.h"
@@ -113,6 +114,7 @@ void UpdateInformationPanel() {
     F.LabelSeasonShow[i].Caption =
         TimeLeft.empty() ? "" : state.SeasonNorth + " in N. Hemi -- " + state.SeasonSouth + " in S. Hemi";
     F.LabelCountdownShow[i].Caption = TimeLeft;
+    ShowNowButton();
 }
 
 void LoadMonthNames() {

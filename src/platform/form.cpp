@@ -23,6 +23,11 @@ Menu::Menu(Menu& TheParent, std::string_view TheName) : Element(TheName), Separa
     TheParent.Items.push_back(this);
 }
 
+BarButton::BarButton(Form& TheParent, std::string_view TheName, std::string_view TheCaption)
+    : Element(TheName), Caption(*this, std::string(TheCaption)) {
+    TheParent.ButtonOfBar = this;
+}
+
 std::vector<Form*> LoadedForms;
 
 Form::Form(std::string_view TheName, double DesignWidth, double DesignHeight, bool IsBorderless)

@@ -1,6 +1,8 @@
 // The windows, their menus and their timers.
 #pragma once
 
+#include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,6 +37,17 @@ public:
     Menu(Menu& TheParent, std::string_view TheName);                               // a separator
 };
 
+// A small button at the right end of a form's menu bar; a form has one at most.
+class BarButton : public Element {
+public:
+    Property<std::string> Caption{*this};
+    Property<std::string> ToolTipText{*this};
+    Property<bool> Visible{*this, false};
+    Event Click;
+
+    BarButton(Form& TheParent, std::string_view TheName, std::string_view TheCaption);
+};
+
 // A window. What it holds stands on a board, which the host shows as large as the window allows, in its middle.
 class Form : public Container {
 public:
@@ -45,6 +58,8 @@ public:
     Event FullScreenChanged;
     const bool Borderless;
     std::vector<Menu*> Menus;
+    BarButton* ButtonOfBar = nullptr;
+    std::map<std::string, std::function<void()>> Keys;  // what a key such as "Shift+Left" does where no control uses it
     std::vector<Timer*> Timers;
     Event OnLoad;
     Event OnUnload;

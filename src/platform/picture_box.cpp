@@ -4,6 +4,11 @@
 #include <cmath>
 
 namespace gloamtide {
+namespace {
+
+float Single(double Value) { return static_cast<float>(Value); }
+
+}  // namespace
 
 PictureBox::PictureBox(Container& TheParent, std::string_view TheName) : Container(&TheParent, TheName) {}
 
@@ -18,8 +23,16 @@ Bitmap& PictureBox::Canvas() {
 }
 
 void PictureBox::PointerMoved(double PixelX, double PixelY) const {
-    if (!MouseMove) return;
-    MouseMove(static_cast<float>(ScaleX.ToUnits(PixelX)), static_cast<float>(ScaleY.ToUnits(PixelY)));
+    if (MouseMove) MouseMove(Single(ScaleX.ToUnits(PixelX)), Single(ScaleY.ToUnits(PixelY)));
+}
+
+void PictureBox::DoubleClicked(double PixelX, double PixelY) const {
+    if (DoubleClick) DoubleClick(Single(ScaleX.ToUnits(PixelX)), Single(ScaleY.ToUnits(PixelY)));
+}
+
+std::vector<MenuChoice> PictureBox::ChoicesAt(double PixelX, double PixelY) const {
+    if (!ContextMenu) return {};
+    return ContextMenu(Single(ScaleX.ToUnits(PixelX)), Single(ScaleY.ToUnits(PixelY)));
 }
 
 void PictureBox::PropertyAssigned(const void* Which, bool Differs) {

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/control.h"
 
@@ -12,6 +13,12 @@ namespace gloamtide {
 // A Density outside this range, or that is no number, is not taken.
 constexpr double LowestDensity = 0.25;
 constexpr double HighestDensity = 8.0;
+
+// What a context menu offers: a caption, and what picking it does.
+struct MenuChoice {
+    std::string Caption;
+    std::function<void()> Pick;
+};
 
 // A picture that can hold controls. It gets its bitmap when it is first drawn on; until then it is all BackColor.
 // Setting BackColor clears the picture to that colour. Sizes, places and scales count in pixels as everywhere; only
@@ -25,6 +32,8 @@ public:
     Property<double> Density{*this, 1.0};             // device pixels for each pixel each way; see LowestDensity
     Event DensityChanged;                             // raised when Density was set to another value
     std::function<void(float X, float Y)> MouseMove;  // the pointer, in user units
+    std::function<void(float X, float Y)> DoubleClick;
+    std::function<std::vector<MenuChoice>(float X, float Y)> ContextMenu;
 
     PictureBox(Container& TheParent, std::string_view TheName);
 
@@ -35,7 +44,10 @@ public:
     void Drawn(int FromX, int FromY, int ToX, int ToY) const {
         if (Observer != nullptr) Observer->PictureDrawn(FromX, FromY, ToX, ToY);
     }
-    void PointerMoved(double PixelX, double PixelY) const;  // pixels of the inner area
+    // Places in pixels of the inner area.
+    void PointerMoved(double PixelX, double PixelY) const;
+    void DoubleClicked(double PixelX, double PixelY) const;
+    std::vector<MenuChoice> ChoicesAt(double PixelX, double PixelY) const;
     void PropertyAssigned(const void* Which, bool Differs) override;
 
 private:

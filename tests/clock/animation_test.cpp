@@ -94,5 +94,50 @@ TEST_F(LongAnimation, RunsTenThousandStepsOrUpToItsLimit) {
     }
 }
 
+TEST_F(Animation, KeysStepAndTheClockRunsOn) {
+    Desktop.System = {2024, 3, 5, 1, 12, 34, 56, 0};  // March 1
+    F.Keys.at("Home")();
+    std::ostringstream Text;
+    for (const char* Key : {"Right", "Left", "Shift+Left", "Left", "Ctrl+Left", "Ctrl+Right", "Shift+Right", "Right",
+                            "PgUp", "PgUp", "Shift+Left", "Shift+Right", "PgDown", "PgDown", "PgDown"}) {
+        F.Keys.at(Key)();
+        Text << Key << ": " << state.OffsetDays << (F.ButtonNow.Visible ? " " + F.ButtonNow.ToolTipText.Get() : "")
+             << "\n";
+    }
+    ExpectGoldenText("steps.txt", Text.str());
+    EXPECT_EQ(Desktop.Beeps, 0);
+    F.Keys.at("Space")();
+    F.Keys.at("PgDown")();
+    EXPECT_EQ(std::tuple(state.AnimStepDays, state.AnimStepYears), std::tuple(1.0 / 24.0, 0.0)) << "its own step stays";
+    EXPECT_TRUE(F.Timer3.Enabled && !F.Timer1.Enabled);
+    F.Keys.at("Space")();
+    EXPECT_TRUE(F.Timer1.Enabled && !F.Timer3.Enabled && !LabelsShown());
+    state.CurrentJD = HighestJD - 1.0;
+    F.Keys.at("PgDown")();
+    EXPECT_TRUE(state.CurrentJD == HighestJD && !F.Timer1.Enabled && Desktop.Messages.size() == 1);
+    F.Keys.at("Left")();
+    EXPECT_TRUE(F.Timer1.Enabled && Desktop.Messages.size() == 1) << "back from the limit the clock runs again";
+}
+
+TEST_F(Animation, NowLeadsBackFromAnywhere) {
+    const auto Shown = [&] {
+        return std::tuple(state.OffsetDays, state.CurrentJD, F.LabelLocSunriseShow[0].Caption.Get());
+    };
+    F.Keys.at("Home")();
+    const auto Present = std::pair(Shown(), F.PictureGT.Picture.Pixels);
+    for (const double Offset : {-90.0, 1e9, -1e300}) {
+        state.OffsetDays = Offset;
+        const DateTime Time = Desktop.System;
+        F.MenuAnimationSubStart.Click();
+        Desktop.Advance(2000);
+        state.ConfigSaved = True;
+        Desktop.System = Time;
+        (Offset < 0.0 ? F.MenuAnimationSubNow.Click : F.ButtonNow.Click)();
+        EXPECT_EQ(std::pair(Shown(), F.PictureGT.Picture.Pixels), Present);
+        EXPECT_TRUE(F.Timer1.Enabled && !F.Timer3.Enabled && !LabelsShown() && !F.ButtonNow.Visible &&
+                    !state.ConfigSaved);
+    }
+}
+
 }  // namespace
 }  // namespace gloamtide

@@ -67,6 +67,7 @@ FormWindow::FormWindow(Form& TheForm, std::function<void(FormWindow&)> ThePresen
     setMinimumSize(480, 320);
     setCentralWidget(Stage);
     Board->setObjectName("Board");
+    if (FindButton(Record, &CommandButton::Default) == nullptr) Board->setFocusPolicy(Qt::ClickFocus);
     Stage->setAutoFillBackground(true);
     Stage->installEventFilter(this);
 
@@ -210,6 +211,20 @@ void FormWindow::closeEvent(QCloseEvent* Event) {
     Record.Close();
 }
 
+bool FormWindow::PressKeyOfForm(const QKeyEvent& Event) {
+    const Qt::KeyboardModifiers Modifiers = Event.modifiers() & ~Qt::KeypadModifier;
+    const QKeySequence Key(QKeyCombination(Modifiers, static_cast<Qt::Key>(Event.key())));
+    const auto Found = Record.Keys.find(Key.toString(QKeySequence::PortableText).toStdString());
+    if (Found == Record.Keys.end()) return false;
+    // Held down, a key repeats itself, maybe faster than it can be followed: what had waited meanwhile is left out.
+    const bool Again = Event.isAutoRepeat() && (Following || Event.key() == Qt::Key_Space);
+    if (Again) return true;
+    Found->second();
+    Following = true;
+    QTimer::singleShot(0, this, [this] { Following = false; });
+    return true;
+}
+
 // Only keys that the focused widget has no use for come here.
 void FormWindow::keyPressEvent(QKeyEvent* Event) {
     const bool Enter = Event->key() == Qt::Key_Return || Event->key() == Qt::Key_Enter;
@@ -222,7 +237,7 @@ void FormWindow::keyPressEvent(QKeyEvent* Event) {
         Widget->click();
     } else if (Escape && Record.FullScreen) {
         Record.FullScreen = false;
-    } else {
+    } else if (!PressKeyOfForm(*Event)) {
         if (Event->key() == Qt::Key_Alt && isFullScreen()) UncoverMenuBar();
         QMainWindow::keyPressEvent(Event);
     }

@@ -46,6 +46,9 @@ private:
     void FitBoard();
     void SharpenPictures();
 
+    // Whether the form has a use for the key.
+    bool PressKeyOfForm(const QKeyEvent& Event);
+
     // In full screen the menu bar lies over the board's upper edge, and only while it is asked for.
     void ArrangeMenuBar();
     void UncoverMenuBar();
@@ -58,8 +61,9 @@ private:
     QWidget* UpperEdge;  // where the pointer asks for the menu bar
     std::optional<double> FixedScale;
     QSize Expected;
-    QTimer Rest;       // until the window's size counts as settled
-    QTimer Uncovered;  // while the menu bar shows in full screen
+    bool Following = false;  // a key of the form was done, and what waited meanwhile is not looked at yet
+    QTimer Rest;             // until the window's size counts as settled
+    QTimer Uncovered;        // while the menu bar shows in full screen
     Watchers Watching;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QToolButton>
 
 namespace gloamtide {
 namespace {
@@ -36,6 +37,38 @@ private:
     QAction& Action;
 };
 
+// No higher than a line of text, so that the bar stays as high as its menus make it.
+class CornerButton : public QToolButton {
+public:
+    explicit CornerButton(QMenuBar& Bar) : QToolButton(&Bar) { setFocusPolicy(Qt::NoFocus); }
+
+    QSize sizeHint() const override { return {QToolButton::sizeHint().width(), fontMetrics().height()}; }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
+class ButtonWatcher : public ElementObserver {
+public:
+    ButtonWatcher(BarButton& TheRecord, QToolButton& TheButton) : Record(TheRecord), Button(TheButton) {
+        Button.setObjectName(QString::fromStdString(Record.Name));
+        QObject::connect(&Button, &QToolButton::clicked, &Button, [&Pressed = Record] { Pressed.Click(); });
+        Record.Observer = this;
+        ButtonWatcher::ElementChanged(Record);
+    }
+    ~ButtonWatcher() override { Record.Observer = nullptr; }
+    ButtonWatcher(const ButtonWatcher&) = delete;
+    ButtonWatcher& operator=(const ButtonWatcher&) = delete;
+
+    void ElementChanged(Element&) override {
+        Button.setText(QString::fromStdString(Record.Caption));
+        Button.setToolTip(QString::fromStdString(Record.ToolTipText));
+        Button.setVisible(Record.Visible);
+    }
+
+private:
+    BarButton& Record;
+    QToolButton& Button;
+};
+
 // Parent: a menu bar or a menu.
 template <class Holder>
 void MakeItems(const std::vector<Menu*>& Records, Holder& Parent, Watchers& Watching) {
@@ -57,6 +90,12 @@ void MakeItems(const std::vector<Menu*>& Records, Holder& Parent, Watchers& Watc
 
 }  // namespace
 
-void MakeMenus(const Form& Record, QMenuBar& Bar, Watchers& Watching) { MakeItems(Record.Menus, Bar, Watching); }
+void MakeMenus(const Form& Record, QMenuBar& Bar, Watchers& Watching) {
+    MakeItems(Record.Menus, Bar, Watching);
+    if (Record.ButtonOfBar == nullptr) return;
+    auto* Button = new CornerButton(Bar);
+    Bar.setCornerWidget(Button);
+    Watching.All.push_back(std::make_unique<ButtonWatcher>(*Record.ButtonOfBar, *Button));
+}
 
 }  // namespace gloamtide

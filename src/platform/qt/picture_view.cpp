@@ -2,7 +2,9 @@
 
 #include <qdrawutil.h>
 
+#include <QContextMenuEvent>
 #include <QImage>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -56,9 +58,28 @@ void PictureView::paintEvent(QPaintEvent* Event) {
     if (!Picture.Empty()) Painter.drawImage(Inner.topLeft(), Image);
 }
 
+QPointF PictureView::ProgramPlace(const QPointF& Place) const {
+    return (Place - InnerArea().topLeft()) / Scale.Factor();
+}
+
 void PictureView::mouseMoveEvent(QMouseEvent* Event) {
-    const QPointF Place = (Event->position() - InnerArea().topLeft()) / Scale.Factor();
+    const QPointF Place = ProgramPlace(Event->position());
     Record.PointerMoved(Place.x(), Place.y());
+}
+
+void PictureView::mouseDoubleClickEvent(QMouseEvent* Event) {
+    const QPointF Place = ProgramPlace(Event->position());
+    if (Event->button() == Qt::LeftButton) Record.DoubleClicked(Place.x(), Place.y());
+}
+
+void PictureView::contextMenuEvent(QContextMenuEvent* Event) {
+    const QPointF Place = ProgramPlace(Event->pos());
+    const std::vector<MenuChoice> Choices = Record.ChoicesAt(Place.x(), Place.y());
+    if (Choices.empty()) return;
+    auto* Menu = new QMenu(this);
+    Menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const MenuChoice& Each : Choices) Menu->addAction(QString::fromStdString(Each.Caption), Each.Pick);
+    Menu->popup(Event->globalPos());
 }
 
 }  // namespace gloamtide

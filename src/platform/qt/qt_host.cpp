@@ -3,12 +3,14 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDeadlineTimer>
+#include <QFile>
 #include <QImage>
 #include <QMenuBar>
 #include <QProxyStyle>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
+#include <utility>
 
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fonts.h"
@@ -60,7 +62,10 @@ QtHost::~QtHost() {
     host = nullptr;
 }
 
-int QtHost::Run() const { return Ended ? 0 : QApplication::exec(); }
+int QtHost::Run() {
+    TellSettingsTrouble();
+    return Ended ? 0 : QApplication::exec();
+}
 
 FormWindow* QtHost::WindowOf(const Form& Which) const {
     const auto Found = Windows.find(&Which);
@@ -79,6 +84,20 @@ void QtHost::ChooseScreen(const std::vector<ProgramScreen>& Screens, const QSize
 
 void QtHost::KeepSettings(const QString& FileName) {
     Settings = std::make_unique<QSettings>(FileName, QSettings::IniFormat);
+    Settings->allKeys();  // looks at all of it
+    if (Settings->status() == QSettings::FormatError) {
+        const QString Aside = FileName + ".damaged";
+        QFile::remove(Aside);
+        QFile::copy(FileName, Aside);
+        SettingsTrouble = tr("Parts of the settings file are damaged and were left out. It was kept as %1.").arg(Aside);
+    } else if (!Settings->isWritable() || Settings->status() != QSettings::NoError) {
+        SettingsTrouble = tr("The window's place and what else is kept in %1 will not be kept.").arg(FileName);
+    }
+}
+
+void QtHost::TellSettingsTrouble() {
+    const QString Text = std::exchange(SettingsTrouble, QString());
+    if (!Text.isEmpty()) ShowMessage({tr("Settings").toStdString(), Text.toStdString(), MessageIcon::Exclamation});
 }
 
 std::string QtHost::ReadSetting(const std::string& Name) {

@@ -1,6 +1,7 @@
 // The desktop that shows the program with Qt 6 Widgets.
 #pragma once
 
+#include <QCoreApplication>
 #include <QSettings>
 #include <QSizeF>
 #include <QWidget>
@@ -21,13 +22,14 @@ struct ProgramScreen {
 
 // Lives inside a QApplication and is the host in force as long as it lives. Forms must outlive it.
 class QtHost : public Host {
+    Q_DECLARE_TR_FUNCTIONS(QtHost)
 public:
     QtHost();
     ~QtHost() override;
 
     std::map<std::string, QString> HelpTexts;  // in HTML, by the file names that the program asks for
 
-    int Run() const;  // the event loop, until the program ends the process; returns the exit code
+    int Run();  // the event loop, until the program ends the process; returns the exit code
 
     // The window of a loaded form, else null.
     FormWindow* WindowOf(const Form& Which) const;
@@ -37,7 +39,8 @@ public:
     void ChooseScreen(const std::vector<ProgramScreen>& Screens, const QSize& Window);
     static QSize LargestWindow();  // that the desktop has room for, without its title bar
 
-    // Keeps settings, and the main window's size and place, in a file. Without this nothing is kept.
+    // Keeps settings, and the main window's size and place, in a file. Without this nothing is kept. What a damaged one
+    // has lost, or that it cannot be written, is told when the program runs; of a damaged one a copy stays.
     void KeepSettings(const QString& FileName);
 
     // Before the main window is laid out: gives it its place, and the scale that it will have there.
@@ -69,11 +72,13 @@ public:
 
 private:
     QWidget* DialogParent() const;
+    void TellSettingsTrouble();
 
     TickGate Gate;
     std::map<const Form*, FormWindow*> Windows;
     FormWindow* MainWindow = nullptr;  // the one with menus
     std::unique_ptr<QSettings> Settings;
+    QString SettingsTrouble;        // not told yet
     int ChosenWidth = 0;            // of the screen that the program sees, pixels; 0: the desktop's
     std::unique_ptr<QWidget> Help;  // once it was asked for
     bool Ended = false;

@@ -39,6 +39,7 @@ struct DemoForm : Form {
     Menu Open{File, "Open", "&Open"};
     Menu Save{File, "Save", "&Save"};
     Menu Quit{*this, "Quit", "&Quit"};
+    BarButton Now{*this, "Now", "Now"};
     PictureBox Picture{*this, "Picture"};
     Label OnPicture{Picture, "OnPicture"};
     Frame Choice{*this, "Choice"};
@@ -58,8 +59,8 @@ class DesktopTest : public testing::Test {
 protected:
     DesktopTest() {
         const auto Hear = [this](auto&... Each) { ((Each.Click = [&] { Heard += Each.Name + " "; }), ...); };
-        Hear(Demo.Open, Demo.Save, Demo.Quit, Demo.North, Demo.South, Demo.Cancel, Demo.Tick, Demo.Names, Demo.Zones,
-             Demo.OK);
+        Hear(Demo.Open, Demo.Save, Demo.Quit, Demo.Now, Demo.North, Demo.South, Demo.Cancel, Demo.Tick, Demo.Names,
+             Demo.Zones, Demo.OK);
         Demo.Show();
     }
     ~DesktopTest() override { LoadedForms.clear(); }

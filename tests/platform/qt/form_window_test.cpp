@@ -101,5 +101,37 @@ TEST_F(Windows, TheProgramAloneSetsTheCheckOfAMenuItem) {
     EXPECT_EQ(Heard, "Open Open Open ");
 }
 
+TEST_F(Windows, KeysThatNoControlUsesAreTheForms) {
+    const auto Press = [&](QWidget& Widget, const QString& Key, bool Held) {
+        const QKeyCombination Pressed = QKeySequence(Key)[0];
+        QKeyEvent Event(QEvent::KeyPress, Pressed.key(), Pressed.keyboardModifiers() | Qt::KeypadModifier,
+                        Key == "Space" ? " " : "", Held);
+        QCoreApplication::sendEvent(&Widget, &Event);
+    };
+    for (const char* Key : {"Shift+Right", "Home", "Space"}) {
+        Demo.Keys[Key] = [this, Key] { Heard += std::string(Key) + " "; };
+        Press(Window(), Key, false);
+        Press(Window(), Key, true);                     // had waited while the first was done
+        Press(Find<QLineEdit>(Demo.Year), Key, false);  // has a use for it
+        ASSERT_TRUE(PassTime());
+        Press(Window(), Key, true);
+        ASSERT_TRUE(PassTime());
+    }
+    EXPECT_EQ(Heard, "Shift+Right Shift+Right Home Home Space ") << "Space switches once";
+}
+
+TEST_F(Windows, TheButtonOfTheBarStandsAtItsEndAndMakesItNoHigher) {
+    auto& Button = Find<QToolButton>(Demo.Now);
+    EXPECT_FALSE(Button.isVisible());
+    Demo.Now.ToolTipText = "Tip";
+    Demo.Now.Visible = true;
+    QMenuBar Plain;
+    Plain.addMenu("File");
+    EXPECT_EQ(Button.parentWidget()->height(), Plain.sizeHint().height());
+    EXPECT_EQ(Button.mapTo(&Window(), QPoint(Button.width(), 0)).x(), Window().width());
+    QTest::mouseClick(&Button, Qt::LeftButton);
+    EXPECT_EQ(Heard + Button.toolTip().toStdString(), "Now Tip");
+}
+
 }  // namespace
 }  // namespace gloamtide

@@ -77,15 +77,30 @@ TEST_F(Picture, WhatIsDrawnComesToTheScreen) {
     }
 }
 
-TEST_F(Picture, ThePointerIsToldInUserUnitsOverLabelsToo) {
+TEST_F(Picture, PointerDoubleClickAndContextMenuAreToldInUserUnitsOverLabelsToo) {
     Demo.OnPicture.Visible = true;
     Demo.OnPicture.Move(80.0, 35.0);  // 20 and 30 pixels
     QPointF Told;
-    Demo.Picture.MouseMove = [&](float X, float Y) { Told = QPointF(X, Y); };
-    QTest::mouseMove(&View, QPoint(1 + 70, 1 + 50));
-    EXPECT_EQ(Told, QPointF(30.0, 5.0));
-    QTest::mouseMove(&Find<QLabel>(Demo.OnPicture), QPoint(4, 6));
-    EXPECT_EQ(Told, QPointF(100.0 - 24.0, 80.0 - 36.0 * 1.5));
+    Demo.Picture.MouseMove = Demo.Picture.DoubleClick = [&](float X, float Y) { Told = QPointF(X, Y); };
+    Demo.Picture.ContextMenu = [&](float X, float Y) {
+        Told = QPointF(X, Y);
+        return std::vector<MenuChoice>{{"First", [&] { Heard += "First "; }}, {"Second", [&] { Heard += "Second "; }}};
+    };
+    const QPointF Place(100.0 - 24.0, 80.0 - 36.0 * 1.5);
+    for (const auto& [Widget, Pixel] :
+         {std::pair<QWidget*, QPoint>(&View, QPoint(1 + 24, 1 + 36)), {&Find<QLabel>(Demo.OnPicture), QPoint(4, 6)}}) {
+        QTest::mouseMove(Widget, Pixel);
+        EXPECT_EQ(std::exchange(Told, QPointF()), Place);
+        QTest::mouseDClick(Widget, Qt::LeftButton, {}, Pixel);
+        EXPECT_EQ(std::exchange(Told, QPointF()), Place);
+        QContextMenuEvent Asked(QContextMenuEvent::Mouse, Pixel, Widget->mapToGlobal(Pixel));
+        QCoreApplication::sendEvent(Widget, &Asked);
+        EXPECT_EQ(std::exchange(Told, QPointF()), Place);
+        ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Up);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    }
+    EXPECT_EQ(Heard, "Second Second ");
 }
 
 }  // namespace

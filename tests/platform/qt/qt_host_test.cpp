@@ -37,5 +37,32 @@ TEST(Host, TheProcessEndsWhenTheProgramAsksAndNotBefore) {
     EXPECT_TRUE(Asked);
 }
 
+TEST(Host, TellsWhatItsSettingsFileHasLostAndReadsTheRest) {
+    struct HearingHost : QtHost {
+        MessageAnswer ShowMessage(const MessageBox& Message) override {
+            Heard += Message.Text.substr(0, 5);
+            return MessageAnswer::OK;
+        }
+        std::string Heard;
+    };
+    const QTemporaryDir Folder;
+    const QString Path = Folder.filePath("sub/a.ini");
+    const auto ExpectTold = [](const QString& File, const std::string& Told, const std::string& Kept) {
+        HearingHost Desktop;
+        Desktop.KeepSettings(File);
+        QTimer::singleShot(0, [&] { Desktop.EndProcess(); });
+        for (int Time = 0; Time < 2; ++Time) Desktop.Run();
+        EXPECT_EQ(Desktop.Heard + "|" + Desktop.ReadSetting("a/b"), Told + "|" + Kept);
+        Desktop.WriteSetting("a/b", "new");
+    };
+    ExpectTold(Path, "", "");
+    QSaveFile File(Path);
+    ASSERT_TRUE(File.open(QIODevice::WriteOnly) && File.write("[a]\nb=old\nmore garbage\n") > 0 && File.commit());
+    ExpectTold(Path, "Parts", "old");
+    ExpectTold(Path, "", "new");
+    EXPECT_EQ(QFile(Path + ".damaged").size(), 23) << "all of it";
+    for (const QString& None : {QString("/proc/none/a.ini"), Folder.path()}) ExpectTold(None, "The w", "");
+}
+
 }  // namespace
 }  // namespace gloamtide
