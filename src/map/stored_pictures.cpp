@@ -66,21 +66,17 @@ bool HasFineDay(const MapSource& Source) {
 }
 
 void MakePlain(const MapPictures& Pictures, const MapSource& Source) {
-    if (HasFineDay(Source)) {
-        auto Night = std::async(std::launch::async, [&] {  // what takes longest when a window has a new size
-            Put(Source.NightOriginal, NightOf(Source.DayOriginal.Picture, Source.Darkening, Source.NightSea));
-            Stretch(Pictures.Night, Source.NightOriginal);
-        });
-        Stretch(Pictures.Day, Source.DayOriginal);
-        Night.get();
-    } else {
-        Put(Source.NightOriginal, DecodeBmp(Source.Night));
-        Put(Source.DayOriginal, DecodeBmp(Source.Day));
+    const bool Fine = HasFineDay(Source);
+    auto Night = std::async(std::launch::async, [&] {  // what takes longest at the start and after a change of size
+        Put(Source.NightOriginal,
+            Fine ? NightOf(Source.DayOriginal.Picture, Source.Darkening, Source.NightSea) : DecodeBmp(Source.Night));
         Stretch(Pictures.Night, Source.NightOriginal);
-        Stretch(Pictures.Day, Source.DayOriginal);
-        Source.DayOriginal.Picture = Bitmap();
-    }
-    Source.NightOriginal.Picture = Bitmap();
+        Source.NightOriginal.Picture = Bitmap();
+    });
+    if (!Fine) Put(Source.DayOriginal, DecodeBmp(Source.Day));
+    Stretch(Pictures.Day, Source.DayOriginal);
+    Night.get();
+    if (!Fine) Source.DayOriginal.Picture = Bitmap();
 }
 
 // The originals are larger than any map but the finest, so they are reduced as light. They stay like a finer picture of

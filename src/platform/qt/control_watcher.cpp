@@ -88,7 +88,8 @@ void ControlWatcher::Place() {
     QRect Inner;  // of the picture that holds it
     if (Holder != nullptr) Inner = Scale.Box(Border, Border, Holder->InnerWidth(), Holder->InnerHeight());
     const auto* Text = dynamic_cast<const Label*>(&Record);
-    if (Text != nullptr && !Text->Opaque && !Text->WordWrap) Box = RoomForLetters(Box, Inner);
+    const bool Reaches = Text != nullptr && !Text->Opaque && !Text->WordWrap;
+    if (Reaches && Widget.isVisible()) Box = RoomForLetters(Box, Inner);  // measured when there is something to see
     if (Border > 0) {  // what a picture holds stays off its border, and is whole where there is room
         Box.moveBottom(std::min(Box.bottom(), Inner.bottom()));
         Box &= Inner;

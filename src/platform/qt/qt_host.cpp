@@ -210,18 +210,42 @@ Bitmap QtHost::DecodePicture(std::span<const unsigned char> Bytes) {
     return Result;
 }
 
+// Makes the window of a form when that is shown for the first time.
+class QtHost::FirstShow : public ElementObserver {
+public:
+    FirstShow(QtHost& TheHost, Form& TheForm) : Host(TheHost), Record(TheForm) { Record.Observer = this; }
+    void ElementChanged(Element&) override {
+        if (Record.Visible) Host.MakeWindow(Record);
+    }
+
+private:
+    QtHost& Host;
+    Form& Record;
+};
+
+// A dialog may never be opened, so its window waits; the program lays out the main window by what that measures.
 void QtHost::FormLoaded(Form& Which) {
-    auto* Window = new FormWindow(
+    if (Which.Menus.empty()) {
+        Awaited[&Which] = std::make_unique<FirstShow>(*this, Which);
+        return;
+    }
+    MakeWindow(Which);
+    MainWindow = WindowOf(Which);
+    Prepare(*MainWindow);
+}
+
+void QtHost::MakeWindow(Form& Which) {
+    Windows[&Which] = new FormWindow(
         Which, [this](FormWindow& Shown) { Present(Shown); }, Gate);
-    Windows[&Which] = Window;
-    if (Which.Menus.empty()) return;
-    MainWindow = Window;
-    Prepare(*Window);
 }
 
 // The window goes later: an event of its own may be under way.
 void QtHost::FormUnloaded(Form& Which) {
-    FormWindow* Window = Windows.extract(&Which).mapped();
+    FormWindow* Window = WindowOf(Which);
+    Windows.erase(&Which);
+    Which.Observer = nullptr;
+    Awaited.erase(&Which);
+    if (Window == nullptr) return;
     if (Window == MainWindow) {
         if (Settings != nullptr) Settings->setValue(PlaceSetting, Window->saveGeometry());
         MainWindow = nullptr;

@@ -71,12 +71,16 @@ public:
     void EndProcess() override;
 
 private:
+    class FirstShow;
+
+    void MakeWindow(Form& Which);
     QWidget* DialogParent() const;
     void TellSettingsTrouble();
 
     TickGate Gate;
     std::map<const Form*, FormWindow*> Windows;
-    FormWindow* MainWindow = nullptr;  // the one with menus
+    std::map<const Form*, std::unique_ptr<ElementObserver>> Awaited;  // of the forms that are loaded without a window
+    FormWindow* MainWindow = nullptr;                                 // the one with menus
     std::unique_ptr<QSettings> Settings;
     QString SettingsTrouble;        // not told yet
     int ChosenWidth = 0;            // of the screen that the program sees, pixels; 0: the desktop's

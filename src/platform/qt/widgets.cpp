@@ -61,6 +61,9 @@ void MakeLabel(Label& Record, QWidget& Parent, Watchers& Watching) {
         Widget->setAutoFillBackground(Record.Opaque);
         if (Record.Opaque) SetRole(*Widget, QPalette::Window, Record.BackColor);
     });
+    QObject::connect(Widget, &RimmedLabel::Shown, Widget, [&Record] {
+        if (Record.Observer != nullptr) Record.Observer->ElementChanged(Record);  // its place follows from its letters
+    });
 }
 
 void MakeTextBox(TextBox& Record, QWidget& Parent, Watchers& Watching) {
