@@ -36,6 +36,18 @@ struct PlacedName {
     Box Place;  // on the unrotated map, perhaps beyond an edge
 };
 
+// The rows of a mask that hold letters; above and below there is room for others.
+GlyphMask WithoutBlankRows(GlyphMask Mask) {
+    const auto Inked = [](std::uint8_t Coverage) { return Coverage != 0; };
+    auto& Pixels = Mask.Coverage;
+    const auto Below = std::find_if(Pixels.rbegin(), Pixels.rend(), Inked) - Pixels.rbegin();
+    Pixels.resize(Pixels.size() - static_cast<std::size_t>(Below / Mask.Width * Mask.Width));
+    const auto Above = std::find_if(Pixels.begin(), Pixels.end(), Inked) - Pixels.begin();
+    Pixels.erase(Pixels.begin(), Pixels.begin() + Above / Mask.Width * Mask.Width);
+    Mask.Height = static_cast<int>(Pixels.size()) / Mask.Width;
+    return Mask;
+}
+
 // The names on a map of one size, which does not turn: so no name jumps as time passes, but those at the edge do.
 class NameLayout {
 public:
@@ -104,9 +116,10 @@ private:
         const int X = (Dot.Left + Dot.Right) / 2;
         const int Y = (Dot.Top + Dot.Bottom) / 2;
         const auto At = [&](int Left, int Top) { return Box{Left, Top, Left + W, Top + H}; };
-        return {At(Dot.Right, Y - H / 2),   At(Dot.Left - W, Y - H / 2), At(Dot.Right, Y - H),
-                At(Dot.Right, Y),           At(Dot.Left - W, Y - H),     At(Dot.Left - W, Y),
-                At(X - W / 2, Dot.Top - H), At(X - W / 2, Dot.Bottom)};
+        return {At(Dot.Right, Y - H / 2),   At(Dot.Left - W, Y - H / 2),   At(Dot.Right, Y - H),
+                At(Dot.Right, Y),           At(Dot.Left - W, Y - H),       At(Dot.Left - W, Y),
+                At(X - W / 2, Dot.Top - H), At(X - W / 2, Dot.Bottom),     At(X - W / 3, Dot.Bottom),
+                At(X - W / 3, Dot.Top - H), At(X - 2 * W / 3, Dot.Bottom), At(X - 2 * W / 3, Dot.Top - H)};
     }
 
     // Whether a place is free of the other names and of all marks, round the Earth.
@@ -127,7 +140,9 @@ private:
         Font Small = FormPictures.PictureNightSplit.CurrentFont();
         Small.Name = "MS Sans Serif";
         Small.Size = 8.0 / std::sqrt(Density);
-        const GlyphMask Letters = host->RenderText(Small, TownOf(Mark), Density);
+        GlyphMask Letters = host->RenderText(Small, TownOf(Mark), Density);
+        if (Letters.Coverage.empty()) return;
+        Letters = WithoutBlankRows(std::move(Letters));
         for (const Box& Place : PlacesBeside(Mark, Letters)) {
             if (!IsFree(Place, Mark)) continue;
             Names.push_back({Mark, Letters, Place});
