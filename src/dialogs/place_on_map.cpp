@@ -10,6 +10,7 @@
 #include "forms/form_gt_main.h"
 #include "map/day_night.h"
 #include "map/geometry.h"
+#include "platform/translation.h"
 #include "state/number_pattern.h"
 #include "state/state.h"
 
@@ -79,8 +80,8 @@ void FormGTMain_PictureGT_DoubleClick(float X, float Y) { ConfigureAt(PlaceAt(X,
 
 std::vector<MenuChoice> FormGTMain_PictureGT_ContextMenu(float X, float Y) {
     const Place Here = PlaceAt(X, Y);
-    std::vector<MenuChoice> Choices = {{"Set Location Here...", [Here] { ConfigureAt(Here); }}};
-    if (Here.City > 0) Choices.push_back({"Show " + state.CityName[Here.City], [Here] { GoToCity(Here.City); }});
+    std::vector<MenuChoice> Choices = {{Tr("Set Location Here..."), [Here] { ConfigureAt(Here); }}};
+    if (Here.City > 0) Choices.push_back({Tr("Show %1", {state.CityName[Here.City]}), [Here] { GoToCity(Here.City); }});
     return Choices;
 }
 

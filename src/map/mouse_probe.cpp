@@ -6,6 +6,7 @@
 #include "astro/subpoint.h"
 #include "forms/form_gt_main.h"
 #include "map/geometry.h"
+#include "platform/translation.h"
 #include "state/number_pattern.h"
 #include "state/numbers.h"
 #include "state/state.h"
@@ -41,11 +42,11 @@ std::string CityNear(double Longitude, double Latitude) {
 }
 
 std::string TenthsOf(double Degrees, const char* Positive, const char* Negative) {
-    return FormatNumber(std::abs(Degrees), "##0.0") + (Degrees < 0.0 ? Negative : Positive);
+    return Tr(Degrees < 0.0 ? Negative : Positive, {FormatNumber(std::abs(Degrees), "##0.0")});
 }
 
-std::string Overhead(const EarthPoint& Place) {
-    return "overhead " + TenthsOf(Place.Latitude, " N", " S") + ", " + TenthsOf(Place.Longitude, " E", " W");
+std::string Told(const EarthPoint& Place) {
+    return TenthsOf(Place.Latitude, "%1 N", "%1 S") + ", " + TenthsOf(Place.Longitude, "%1 E", "%1 W");
 }
 
 // Whether the pointer is on a mark, its rays included. Hour: local time at the mark's place on the map.
@@ -58,10 +59,10 @@ bool IsOnMark(float X, float Y, float Hour, double Latitude) {
 // Of the marks the Moon's is on top.
 std::string MarkUnder(float X, float Y) {
     if (state.ShowMoon == True && IsOnMark(X, Y, state.MoonMapHour, state.MoonDeclination)) {
-        return "Moon, " + FormatNumber(state.MoonLitPercent, "##0") + " % lit, " + Overhead(MoonOverhead());
+        return Tr("Moon, %1 % lit, overhead %2", {FormatNumber(state.MoonLitPercent, "##0"), Told(MoonOverhead())});
     }
     const bool OnSun = IsOnMark(X, Y, 12.0F - state.EquationOfTime / 60.0F, state.SunDeclination);
-    return state.ShowSun == True && OnSun ? "Sun " + Overhead(SunOverhead()) : "";
+    return state.ShowSun == True && OnSun ? Tr("Sun overhead %1", {Told(SunOverhead())}) : "";
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include "astro/calendar.h"
 #include "forms/form_gt_main.h"
+#include "platform/translation.h"
 #include "state/number_pattern.h"
 #include "state/numbers.h"
 #include "state/state.h"
@@ -39,17 +40,17 @@ std::string Span(double From, double To) {
     const double Years = WholeYears(From, To);
     const double Rest = std::max(0.0, To - (Years == 0.0 ? From : YearsLater(From, Years)));  // days
     const double Seconds = RoundHalfEven(Rest * SecondsADay);
-    const std::tuple<double, const char*> Parts[] = {{Years, "year"},
-                                                     {std::floor(Seconds / SecondsADay), "day"},
-                                                     {std::fmod(std::floor(Seconds / 3600.0), 24.0), "hour"},
-                                                     {std::fmod(std::floor(Seconds / 60.0), 60.0), "minute"},
-                                                     {std::fmod(Seconds, 60.0), "second"}};
+    const std::tuple<double, const char*, const char*> Parts[] = {
+        {Years, "%1 year", "%1 years"},
+        {std::floor(Seconds / SecondsADay), "%1 day", "%1 days"},
+        {std::fmod(std::floor(Seconds / 3600.0), 24.0), "%1 hour", "%1 hours"},
+        {std::fmod(std::floor(Seconds / 60.0), 60.0), "%1 minute", "%1 minutes"},
+        {std::fmod(Seconds, 60.0), "%1 second", "%1 seconds"}};
     std::string Text;
-    for (const auto& [Count, Unit] : Parts) {
+    for (const auto& [Count, One, Many] : Parts) {
         const bool Second = !Text.empty();
         if (Count > 0.0) {
-            Text.append(Second ? " " : "").append(PlainNumber(Single(Count)));
-            Text.append(" ").append(Unit).append(Count == 1.0 ? "" : "s");
+            Text.append(Second ? " " : "").append(Tr(Count == 1.0 ? One : Many, {PlainNumber(Single(Count))}));
         }
         if (Second) break;
     }
@@ -58,10 +59,10 @@ std::string Span(double From, double To) {
 
 std::string Difference() {
     constexpr double LargestSpan = 3e6;  // days, more than all the years that there are
-    if (!(std::abs(state.OffsetDays) < LargestSpan)) return "Far from the present";
+    if (!(std::abs(state.OffsetDays) < LargestSpan)) return Tr("Far from the present");
     const double Shown = state.SystemJD + state.OffsetDays;
-    return state.OffsetDays < 0.0 ? Span(Shown, state.SystemJD) + " in the past"
-                                  : Span(state.SystemJD, Shown) + " in the future";
+    return state.OffsetDays < 0.0 ? Tr("%1 in the past", {Span(Shown, state.SystemJD)})
+                                  : Tr("%1 in the future", {Span(state.SystemJD, Shown)});
 }
 
 }  // namespace

@@ -46,8 +46,9 @@ public:
 
     virtual double ScreenWidthTwips() = 0;
     virtual double ScreenHeightTwips() = 0;
-    virtual DateTime SystemTime() = 0;  // Greenwich
-    virtual DateTime LocalTime() = 0;   // the computer's own
+    virtual DateTime SystemTime() = 0;                                      // Greenwich
+    virtual DateTime LocalTime() = 0;                                       // the computer's own
+    virtual std::string Translate(const char* English) { return English; }  // into the user's language
 
     virtual void Beep() = 0;
     // Returns when the user has answered. While it or a file dialog is open no timer of the program ticks and no

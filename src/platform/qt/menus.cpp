@@ -4,6 +4,8 @@
 #include <QMenu>
 #include <QToolButton>
 
+#include "platform/translation.h"
+
 namespace gloamtide {
 namespace {
 
@@ -28,7 +30,7 @@ public:
 
 private:
     void Show() {
-        Action.setText(QString::fromStdString(Record.Caption));
+        Action.setText(QString::fromStdString(Tr(Record.Caption.Get().c_str())));
         Action.setCheckable(Record.Checked);
         Action.setChecked(Record.Checked);
     }
@@ -59,7 +61,7 @@ public:
     ButtonWatcher& operator=(const ButtonWatcher&) = delete;
 
     void ElementChanged(Element&) override {
-        Button.setText(QString::fromStdString(Record.Caption));
+        Button.setText(QString::fromStdString(Tr(Record.Caption.Get().c_str())));
         Button.setToolTip(QString::fromStdString(Record.ToolTipText));
         Button.setVisible(Record.Visible);
     }
@@ -80,7 +82,7 @@ void MakeItems(const std::vector<Menu*>& Records, Holder& Parent, Watchers& Watc
             Action = Parent.addAction(QString());
         } else {
             QMenu* List = Parent.addMenu(QString());
-            List->setAccessibleName(QString::fromStdString(Record->Caption).remove('&'));
+            List->setAccessibleName(QString::fromStdString(Tr(Record->Caption.Get().c_str())).remove('&'));
             MakeItems(Record->Items, *List, Watching);
             Action = List->menuAction();
         }

@@ -160,6 +160,9 @@ double QtHost::ScreenWidthTwips() {
 double QtHost::ScreenHeightTwips() { return QGuiApplication::primaryScreen()->size().height() * TwipsPerPixel; }
 DateTime QtHost::SystemTime() { return ToDateTime(QDateTime::currentDateTimeUtc()); }
 DateTime QtHost::LocalTime() { return ToDateTime(QDateTime::currentDateTime()); }
+std::string QtHost::Translate(const char* English) {
+    return QCoreApplication::translate("gloamtide", English).toStdString();
+}
 void QtHost::Beep() { QApplication::beep(); }
 
 QWidget* QtHost::DialogParent() const {

@@ -54,6 +54,7 @@ public:
     double ScreenHeightTwips() override;
     DateTime SystemTime() override;
     DateTime LocalTime() override;
+    std::string Translate(const char* English) override;
     void Beep() override;
     MessageAnswer ShowMessage(const MessageBox& Message) override;
     std::optional<std::string> ShowOpenDialog(const FileDialog& Dialog) override;
