@@ -68,7 +68,7 @@ bool SameBlock(const QImage& One, const QImage& Other, const QRect& Block) {
 }
 
 // What is to be laid over the picture before: the blocks that changed, the others transparent.
-struct Frame {
+struct FilmFrame {
     QRect Area;  // empty where nothing changed
     QImage Blocks;
 };
@@ -83,7 +83,7 @@ void ForEachBlock(const QRect& Picture, Function Do) {
     }
 }
 
-Frame FrameOver(const QImage& Before, const QImage& Picture) {
+FilmFrame FrameOver(const QImage& Before, const QImage& Picture) {
     // A block that changed takes its neighbours along, whose colours reach over its edges as WebP codes them.
     QRegion Changed;
     QRegion Coded;
@@ -93,7 +93,7 @@ Frame FrameOver(const QImage& Before, const QImage& Picture) {
         Coded += Block.adjusted(-BlockSize, -BlockSize, BlockSize, BlockSize);
     });
     const QRect Area = Changed.boundingRect();
-    Frame Result{Area, Picture.copy(Area)};
+    FilmFrame Result{Area, Picture.copy(Area)};
     ForEachBlock(Picture.rect(), [&](const QRect& Block) {
         if (!Block.intersects(Area) || Changed.intersects(Block)) return;
         const QRgb Kept = Coded.intersects(Block) ? RGB_MASK : 0;
@@ -125,7 +125,7 @@ public:
         Append("ANIM" + LowByteFirst(6, 4) + LowByteFirst(0xFF000000U, 4) + LowByteFirst(0, 2));  // black, endless
     }
 
-    void Begin(const Frame& New, std::uint64_t Start) {
+    void Begin(const FilmFrame& New, std::uint64_t Start) {
         End(Start);
         Place = LowByteFirst(static_cast<std::uint64_t>(New.Area.x()) / 2, 3) +
                 LowByteFirst(static_cast<std::uint64_t>(New.Area.y()) / 2, 3) + Less1(New.Area.width()) +
@@ -168,7 +168,7 @@ void WriteWebP(const Film& Shown, LongFile& File) {
     Shown.Tell(1);
     for (std::int64_t Which = 1; Which < Shown.Count; ++Which) {
         const QImage Picture = Shown.Picture(Which);
-        const Frame New = FrameOver(Before, Picture);
+        const FilmFrame New = FrameOver(Before, Picture);
         if (!New.Area.isEmpty()) Writer.Begin(New, StartOf(Shown, Which));
         Before = Picture;
         Shown.Tell(Which + 1);
