@@ -9,7 +9,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 Scratch=$(mktemp -d)
 trap 'rm -rf "$Scratch"' EXIT
-# Programs stay apart: each has a main of its own, and the benchmarks define the same names.
+# Programs stay apart: each has a main of its own.
 awk -v Root="$PWD/" -v Scratch="$Scratch" '
     /^ *"command": / { Command = $0 }
     /^ *"file": / {
