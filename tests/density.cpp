@@ -2,7 +2,27 @@
 
 #include <algorithm>
 
+#include "forms/form_gt_main.h"
+#include "forms/form_pictures.h"
+#include "forms/layout.h"
+
 namespace gloamtide {
+
+void SetDensity(double Density) {
+    FormGTMain.PictureSundial.Density = Density;
+    FormGTMain.PictureGTContainer.Density = Density;
+    FormGTMain.PictureGT.Density = Density;
+}
+
+void PaintPlainMap(Color Day) {
+    MeasureScreen();
+    ScaleMapPictures();
+    FormPictures.PictureDay.Canvas();
+    FormPictures.PictureDay.BackColor = Day;
+    FormPictures.PictureNight.Canvas();
+    FormPictures.PictureNight.BackColor = 0;
+}
+
 namespace {
 
 struct Range {

@@ -103,6 +103,11 @@ Main='Gloamtide (home.gtf)'
 mkdir -p "$Images"
 "$Build/gloamtide-still" --at 2026-11-23T19:20:20Z --map terrain --hide analemma --show sun,moon,city-names,timezones \
     --size 1920x1080 "$Images/gloamtide.jpg"
+"$Build/gloamtide-still" --at 2026-11-22T13:30:30Z --map political --size 1920x1080 \
+    --show sun,moon,analemma,cities,grid,timezones,sundial "$Scratch/still.png"
+Keep "$Scratch/still.png" screen-1920.png
+"$Build/gloamtide-still" --at 2026-11-18T00:00:30Z --place Sydney --only-map --size 3840x2160 \
+    --show sun,moon,analemma,timezones,sundial "$Images/map-4k.jpg"
 Still class-0.png 2026-12-21T12:00:30Z 640 0 sun moon
 Still class-1.png 2026-09-23T16:00:30Z 800 1 summer sun grid analemma
 Still class-2.png 2026-07-09T14:00:30Z 1024 0 summer sun moon cities sundial

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "map/geometry.h"
+#include "tests/density.h"
 #include "tests/program_test.h"
 
 namespace gloamtide {
@@ -20,8 +21,7 @@ TEST_F(CityNames, AreWholeHoweverTheMapIsTurned) {
         return std::count(Map.Picture.Pixels.begin(), Map.Picture.Pixels.end(), Value);
     };
     for (const auto& [Density, Letter, Least] : {std::tuple(1.0, 5 * 11, 200), {3.0, 9 * 18, 600}}) {
-        FormGTMain.PictureSundial.Density = FormGTMain.PictureGTContainer.Density = Density;
-        FormGTMain.PictureGT.Density = Density;
+        SetDensity(Density);
         for (state.MapShift = 0; state.MapShift <= state.MapWidth; state.MapShift += 59) {
             SCOPED_TRACE(std::to_string(state.MapShift) + " at density " + std::to_string(Density));
             Map.Canvas();

@@ -11,12 +11,6 @@ namespace {
 
 constexpr Color Day = RGB(255, 255, 255);
 
-void SetDensity(double Density) {
-    FormGTMain.PictureSundial.Density = Density;
-    FormGTMain.PictureGTContainer.Density = Density;
-    FormGTMain.PictureGT.Density = Density;
-}
-
 const Bitmap& Shown() { return FormGTMain.PictureGT.Picture; }
 
 using MapDensity = ProgramTest;
@@ -57,12 +51,7 @@ TEST_F(MapDensity, TheTerminatorIsTheExactCurveToADevicePixel) {
     state.GreenwichHour = 12.0F;
     for (const double Density : {1.25, 2.0, 3.0}) {
         SetDensity(Density);
-        MeasureScreen();
-        ScaleMapPictures();
-        FormPictures.PictureDay.Canvas();
-        FormPictures.PictureDay.BackColor = Day;
-        FormPictures.PictureNight.Canvas();
-        FormPictures.PictureNight.BackColor = 0;
+        PaintPlainMap(Day);
         for (const ExactDay& Sun : {ExactDay{23.4393, 0.0}, {-23.4393, 7.5}, {12.0, -8.25}, {-0.3, 3.0}, {0.02, 0.0}}) {
             state.SunDeclination = Sun.Declination;
             state.TanSunDeclination = TanDeg(Sun.Declination);

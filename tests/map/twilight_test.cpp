@@ -7,6 +7,7 @@
 #include "astro/solar.h"
 #include "forms/layout.h"
 #include "map/day_night.h"
+#include "tests/density.h"
 #include "tests/program_test.h"
 #include "tests/vectors.h"
 
@@ -42,15 +43,8 @@ protected:
 
     // Draws the map of one colour by day and black by night under a Sun.
     static const Bitmap& Drawn(double Density, Color Day, double Declination, double ShiftPixels) {
-        FormGTMain.PictureSundial.Density = Density;
-        FormGTMain.PictureGTContainer.Density = Density;
-        FormGTMain.PictureGT.Density = Density;
-        MeasureScreen();
-        ScaleMapPictures();
-        FormPictures.PictureDay.Canvas();
-        FormPictures.PictureDay.BackColor = Day;
-        FormPictures.PictureNight.Canvas();
-        FormPictures.PictureNight.BackColor = 0;
+        SetDensity(Density);
+        PaintPlainMap(Day);
         state.SunDeclination = Declination;
         state.EquationOfTimeMapShift = static_cast<float>(ShiftPixels);
         RedrawMap();

@@ -9,6 +9,8 @@
 namespace gloamtide {
 namespace {
 
+QString Translated(const std::string& Caption) { return QString::fromStdString(Tr(Caption.c_str())); }
+
 class MenuWatcher : public ElementObserver {
 public:
     MenuWatcher(Menu& TheRecord, QAction& TheAction) : Record(TheRecord), Action(TheAction) {
@@ -30,7 +32,7 @@ public:
 
 private:
     void Show() {
-        Action.setText(QString::fromStdString(Tr(Record.Caption.Get().c_str())));
+        Action.setText(Translated(Record.Caption));
         Action.setCheckable(Record.Checked);
         Action.setChecked(Record.Checked);
     }
@@ -61,7 +63,7 @@ public:
     ButtonWatcher& operator=(const ButtonWatcher&) = delete;
 
     void ElementChanged(Element&) override {
-        Button.setText(QString::fromStdString(Tr(Record.Caption.Get().c_str())));
+        Button.setText(Translated(Record.Caption));
         Button.setToolTip(QString::fromStdString(Record.ToolTipText));
         Button.setVisible(Record.Visible);
     }
@@ -82,7 +84,7 @@ void MakeItems(const std::vector<Menu*>& Records, Holder& Parent, Watchers& Watc
             Action = Parent.addAction(QString());
         } else {
             QMenu* List = Parent.addMenu(QString());
-            List->setAccessibleName(QString::fromStdString(Tr(Record->Caption.Get().c_str())).remove('&'));
+            List->setAccessibleName(Translated(Record->Caption).remove('&'));
             MakeItems(Record->Items, *List, Watching);
             Action = List->menuAction();
         }
