@@ -1,7 +1,9 @@
 // Gloamtide, the desktop program.
 
 #include <QApplication>
+#include <QBuffer>
 #include <QIcon>
+#include <QImageReader>
 #include <QPixmap>
 #include <QStandardPaths>
 #ifdef __GLIBC__
@@ -33,11 +35,19 @@ void KeepMemorySmall() {
 #endif
 }
 
-int ShowProgram() {
+// Read as what it is: a look at its bytes would load every plugin for other formats first.
+QPixmap ProgramIcon() {
     const AssetBytes Icon = IconPng();
-    QPixmap Picture;
-    Picture.loadFromData(Icon.data(), static_cast<uint>(Icon.size()), "PNG");
-    QApplication::setWindowIcon(Picture);
+    QByteArray Bytes =
+        QByteArray::fromRawData(reinterpret_cast<const char*>(Icon.data()), static_cast<qsizetype>(Icon.size()));
+    QBuffer Buffer(&Bytes);
+    QImageReader Reader(&Buffer, "png");
+    Reader.setAutoDetectImageFormat(false);
+    return QPixmap::fromImageReader(&Reader);
+}
+
+int ShowProgram() {
+    QApplication::setWindowIcon(ProgramIcon());
 
     QtHost Desktop;
     const AssetBytes HelpText = HelpHtml();

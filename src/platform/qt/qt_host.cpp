@@ -6,8 +6,10 @@
 #include <QFile>
 #include <QImage>
 #include <QMenuBar>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QScreen>
+#include <QStyleOption>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
@@ -29,6 +31,25 @@ public:
                   QStyleHintReturn* Return) const override {
         if (Hint == SH_ComboBox_Popup) return 0;  // a list that scrolls, not a menu as tall as the screen
         return QProxyStyle::styleHint(Hint, Option, Widget, Return);
+    }
+
+    // Every menu bar asks for this one, though only a narrow one shows it. The style's own is a file that makes Qt load
+    // each plugin for pictures; that it has no other here.
+    QIcon standardIcon(StandardPixmap Which, const QStyleOption* Option, const QWidget* Widget) const override {
+        return Which == SP_ToolBarHorizontalExtensionButton ? ArrowIcon()
+                                                            : QProxyStyle::standardIcon(Which, Option, Widget);
+    }
+
+private:
+    QIcon ArrowIcon() const {
+        QPixmap Picture(16, 16);
+        Picture.fill(Qt::transparent);
+        QPainter Painter(&Picture);
+        QStyleOption Whole;
+        Whole.rect = Picture.rect();
+        Whole.state = State_Enabled;
+        drawPrimitive(PE_IndicatorArrowRight, &Whole, &Painter);
+        return Picture;
     }
 };
 
