@@ -12,10 +12,13 @@ namespace {
 
 void DrawDial(benchmark::State& Runs, double Latitude) {
     StartOnce();
+    const SharedState Before = state;
     state.LocationLat = Latitude;
     state.CurrentJD = 2461213.2;  // an afternoon in June
     RecomputeAlmanac();
     for (auto _ : Runs) DrawSundial();
+    state = Before;
+    RecomputeAlmanac();
 }
 
 BENCHMARK_CAPTURE(DrawDial, Middle, 40.0)->Name("the sundial at 40 degrees")->Unit(benchmark::kMicrosecond);
