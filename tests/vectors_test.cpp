@@ -49,7 +49,8 @@ protected:
         LayOutMainWindow();
         ScaleMapPictures();
         for (PictureSurface* Each : FormPictures.WorkPictures()) Each->BackColor = NightColor;
-        FormPictures.PictureDay.BackColor = FormPictures.PictureDaySplit.BackColor = DayColor;
+        FormPictures.PictureDay.BackColor = DayColor;
+        FormPictures.PictureDay.Canvas();
         Surface.Canvas();
     }
 

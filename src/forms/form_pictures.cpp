@@ -12,9 +12,9 @@ PicturesForm::PicturesForm() : Form("FormPictures", 0.0, 0.0) {
     PictureTZmask.Size(956, 510);  // its last four columns are never read
 }
 
-std::array<PictureSurface*, 10> PicturesForm::WorkPictures() {
-    return {&PictureDay,         &PictureNight, &PictureDaySplit, &PictureNightSplit,  &PictureCitiesDay,
-            &PictureCitiesNight, &PictureTZDay, &PictureTZNight,  &PictureTZCitiesDay, &PictureTZCitiesNight};
+std::array<PictureSurface*, 9> PicturesForm::WorkPictures() {
+    return {&PictureDay,   &PictureNight,   &PictureNightSplit,  &PictureCitiesDay,    &PictureCitiesNight,
+            &PictureTZDay, &PictureTZNight, &PictureTZCitiesDay, &PictureTZCitiesNight};
 }
 
 }  // namespace gloamtide

@@ -28,12 +28,11 @@ struct PicturesForm : Form {
     PictureSurface PictureTZCitiesDay{*this, "PictureTZCitiesDay"};
     PictureSurface PictureTZCitiesNight{*this, "PictureTZCitiesNight"};
 
-    // The rotated pictures of the current redraw; the finished map is put together on PictureNightSplit.
-    PictureSurface PictureDaySplit{*this, "PictureDaySplit"};
+    // The map of the current redraw: the turned night, on which day and overlays are laid. Empty between redraws.
     PictureSurface PictureNightSplit{*this, "PictureNightSplit"};
 
-    // The ten that have the size and the scale of the map.
-    std::array<PictureSurface*, 10> WorkPictures();
+    // Those that have the size and the scale of the map.
+    std::array<PictureSurface*, 9> WorkPictures();
 };
 
 extern PicturesForm FormPictures;

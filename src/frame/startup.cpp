@@ -13,7 +13,6 @@
 #include "forms/form_animation.h"
 #include "forms/form_configure.h"
 #include "forms/form_gt_main.h"
-#include "forms/form_pictures.h"
 #include "forms/form_splash.h"
 #include "forms/layout.h"
 #include "forms/messages.h"
@@ -37,7 +36,6 @@ namespace {
 
 void ConnectHandlers() {
     FormSplash.OnLoad = FormSplash_Form_Load;
-    FormPictures.OnLoad = FormPictures_Form_Load;
     FormGTMain.OnLoad = FormGTMain_Form_Load;
     FormGTMain.OnUnload = FormGTMain_Form_Unload;
     FormGTMain.MenuFileSubOpen.Click = MenuFileSubOpen_Click;

@@ -1,6 +1,7 @@
 #include "map/day_night.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "astro/degrees.h"
 #include "forms/form_gt_main.h"
@@ -20,10 +21,10 @@
 namespace gloamtide {
 namespace {
 
-void RotateDayAndNight() {
-    const auto [Day, Night] = ShownMapPictures();
-    RotateColumns(FormPictures.PictureDaySplit, Day, state.MapShift);
-    RotateColumns(FormPictures.PictureNightSplit, Night, state.MapShift);
+void RotateNight() {
+    PictureSurface& Night = ShownMapPictures().Night;
+    const Bitmap& Whole = Night.Canvas();
+    BitBltTurned(FormPictures.PictureNightSplit, 0, 0, Whole.Width, Whole.Height, Night, state.MapShift);
 }
 
 // Where the lit span lies at StripLatitude. Sets StripTop, DayHalfWidth, StripLeftX, StripRightX.
@@ -72,6 +73,7 @@ void LayDayStrips() {
 // the latitude of its middle, with its ends on device pixels.
 void LayDayRows() {
     PictureSurface& Night = FormPictures.PictureNightSplit;
+    PictureSurface& Day = ShownMapPictures().Day;
     const double Density = Night.Density;
     const int Rows = Night.Canvas().Height;
     state.StripHeight = Single(1.0 / Density);
@@ -83,7 +85,7 @@ void LayDayRows() {
         PlaceDayStrip();
         const int Left = ToInt32(state.StripLeftX * Density);
         const int Right = ToInt32(state.StripRightX * Density);
-        BitBltDevice(Night, Left, Row, std::int64_t{Right} - Left, 1, FormPictures.PictureDaySplit, Left, Row);
+        BitBltTurned(Night, Left, Row, std::int64_t{Right} - Left, 1, Day, state.MapShift);
     }
 }
 
@@ -124,16 +126,19 @@ void BlitDayStrip() {
     const int Left = ToInt32(state.StripLeftX);
     const int Top = ToInt32(state.StripTop);
     const int Width = ToInt32(static_cast<double>(state.StripRightX) - state.StripLeftX);
-    BitBlt(FormPictures.PictureNightSplit, Left, Top, Width, ToInt32(state.StripHeight), FormPictures.PictureDaySplit,
-           Left, Top);
+    BitBltTurned(FormPictures.PictureNightSplit, Left, Top, Width, ToInt32(state.StripHeight), ShownMapPictures().Day,
+                 state.MapShift);
 }
 
 void RedrawMap() {
+    // Nobody looks before the end, so the new map is put together where the last one was shown: one picture less.
+    Bitmap& Map = FormPictures.PictureNightSplit.Picture;
+    Map = std::exchange(FormGTMain.PictureGT.Picture, Bitmap());
     RotateMap();
-    RotateDayAndNight();
+    RotateNight();
     LayDay();
     DrawOverlays();
-    FormGTMain.PictureGT.TakePicture(FormPictures.PictureNightSplit.Picture);
+    FormGTMain.PictureGT.TakePicture(std::exchange(Map, Bitmap()));
 }
 
 }  // namespace gloamtide

@@ -9,10 +9,10 @@ namespace gloamtide {
 //   Sets:   RotationHour, MapShift, the working state of the strips; the picture of FormGTMain.PictureGT
 void RedrawMap();
 
-// Copies the lit span at one latitude from PictureDaySplit onto PictureNightSplit. No refraction, no width of the
-// Sun's disc: one degree of longitude on either side stands for both.
+// Copies the lit span at one latitude from the shown day, turned, onto PictureNightSplit. No refraction, no width of
+// the Sun's disc: one degree of longitude on either side stands for both.
 //   Reads:  StripLatitude (degrees), StripHeight (pixels, negative reaches upward), TanSunDeclination,
-//           EquationOfTimeMapShift
+//           EquationOfTimeMapShift, MapShift
 //   Sets:   StripTop, DayHalfWidth, StripLeftX, StripRightX
 void BlitDayStrip();
 

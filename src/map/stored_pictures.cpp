@@ -110,17 +110,13 @@ void EmptyMapPictures() {
 }
 
 void DropOtherMapPictures(const MapPictures& Shown) {
-    const PicturesForm& F = FormPictures;
     for (PictureSurface* Each : FormPictures.WorkPictures()) {
-        const bool Needed =
-            Each == &Shown.Day || Each == &Shown.Night || Each == &F.PictureDaySplit || Each == &F.PictureNightSplit;
+        const bool Needed = Each == &Shown.Day || Each == &Shown.Night || Each == &FormPictures.PictureNightSplit;
         if (!Needed) Each->Picture = Bitmap();
     }
 }
 
 }  // namespace
-
-void FormPictures_Form_Load() { FormPictures.PictureTZmask.SetPicture(DecodeBmp(ZoneMaskBmp())); }
 
 void ResetMapPictures() {
     if (state.MapType != 0 && state.MapType != 1) return;

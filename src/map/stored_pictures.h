@@ -7,9 +7,6 @@ namespace gloamtide {
 
 constexpr std::int16_t TerrainMap = 2;  // in MapTypeShown: the terrain in the natural map's place
 
-// Puts the zone mask on its surface of FormPictures.
-void FormPictures_Form_Load();
-
 // Goes over to the current map type: the cached pictures of the old one go.
 //   Reads:  MapType (0 natural, 1 political; with any other it does nothing), TerrainShown of the extras
 //   Sets:   MapTypeShown

@@ -8,6 +8,7 @@
 
 #include "astro/degrees.h"
 #include "forms/form_pictures.h"
+#include "map/stored_pictures.h"
 #include "state/numbers.h"
 #include "state/state.h"
 #include "surface/linear_light.h"
@@ -183,11 +184,16 @@ void DrawTwilightLine(const TwilightLine& Each) {
 
 void LayTwilight() {
     if (!SunIsKnown()) return;
-    const Bitmap& Day = FormPictures.PictureDaySplit.Canvas();
+    PictureSurface& Shown = ShownMapPictures().Day;
+    const Bitmap& Day = Shown.Canvas();
+    const int Turned = TurnedColumns(Shown, state.MapShift);
     Bitmap& Night = FormPictures.PictureNightSplit.Canvas();
     const Mixer Row(Night.Width);
+    std::vector<Color> Lit(static_cast<std::size_t>(Night.Width));
     for (int Y = 0; Y < Night.Height; ++Y) {
-        Row.LayRow(Day.Row(Y), Night.Row(Y), Parallel(RowLatitude(Y, Night.Height)));
+        const Color* Stored = Day.Row(Y);
+        std::rotate_copy(Stored, Stored + Turned, Stored + Night.Width, Lit.begin());
+        Row.LayRow(Lit.data(), Night.Row(Y), Parallel(RowLatitude(Y, Night.Height)));
     }
 }
 

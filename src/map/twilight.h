@@ -3,9 +3,9 @@
 
 namespace gloamtide {
 
-// Lays the day of PictureDaySplit over the night of PictureNightSplit with a soft edge: all day from 0.5 degrees above
-// the horizon, all night from 18 below, between them mixed as light by a smoothstep of the altitude.
-//   Reads:  SunDeclination, EquationOfTimeMapShift, MapWidth
+// Lays the shown day, turned, over the night of PictureNightSplit with a soft edge: all day from 0.5 degrees above the
+// horizon, all night from 18 below, between them mixed as light by a smoothstep of the altitude.
+//   Reads:  SunDeclination, EquationOfTimeMapShift, MapShift, MapWidth
 //   Errors: all night where there is no such Sun, nor are there lines then
 void LayTwilight();
 

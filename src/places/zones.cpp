@@ -5,10 +5,12 @@
 #include <iterator>
 #include <string>
 
+#include "assets/assets.h"
 #include "forms/form_configure.h"
 #include "forms/form_pictures.h"
 #include "state/numbers.h"
 #include "state/state.h"
+#include "surface/stored_bitmap.h"
 
 namespace gloamtide {
 namespace {
@@ -85,6 +87,13 @@ float ListedCoordinate(const ComboBox& Degrees, const ComboBox& Minutes, bool Ne
     return Negative ? -Magnitude : Magnitude;
 }
 
+// Decoded when it is first asked for: as long as no place is set nothing needs it.
+const PictureSurface& ZoneMask() {
+    PictureSurface& Mask = FormPictures.PictureTZmask;
+    if (Mask.Picture.Empty()) Mask.SetPicture(DecodeBmp(ZoneMaskBmp()));
+    return Mask;
+}
+
 }  // namespace
 
 void BuildZoneTable() {
@@ -109,7 +118,7 @@ void ZoneFromLocation() {
     state.MaskLongitude = ListedCoordinate(F.ComboSetLongDeg, F.ComboSetLongMin, F.OptionSetLong[1].Value);
     state.MaskLatitude = ListedCoordinate(F.ComboSetLatDeg, F.ComboSetLatMin, F.OptionSetLat[1].Value);
     const float X = Single((180.0 - state.MaskLongitude) * 956.0 / 360.0);
-    const long Colour = FormPictures.PictureTZmask.Point(X, state.MaskLatitude);
+    const long Colour = ZoneMask().Point(X, state.MaskLatitude);
     state.MaskCode = Single(static_cast<double>(Colour & 255));  // 255 outside the mask
     const auto Found = std::find_if(std::begin(Zones), std::end(Zones), [](const Zone& Each) {
         return static_cast<float>(Each.MaskCode) == state.MaskCode;

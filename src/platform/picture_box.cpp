@@ -13,13 +13,18 @@ float Single(double Value) { return static_cast<float>(Value); }
 PictureBox::PictureBox(Container& TheParent, std::string_view TheName) : Container(&TheParent, TheName) {}
 
 Bitmap& PictureBox::Canvas() {
-    const int PixelWidth = std::max(0, static_cast<int>(std::lround(InnerWidth() * Density)));
-    const int PixelHeight =
-        std::max(0, static_cast<int>(std::lround(std::min(InnerHeight(), LowestRow + 1.0) * Density)));
-    if (Picture.Width != PixelWidth || Picture.Height != PixelHeight) {
-        Picture.Renew(PixelWidth, PixelHeight, BackColor);
-    }
+    if (!FitsCanvas(Picture)) Picture.Renew(CanvasWidth(), CanvasHeight(), BackColor);
     return Picture;
+}
+
+bool PictureBox::FitsCanvas(const Bitmap& Image) const {
+    return Image.Width == CanvasWidth() && Image.Height == CanvasHeight();
+}
+
+int PictureBox::CanvasWidth() const { return std::max(0, static_cast<int>(std::lround(InnerWidth() * Density))); }
+
+int PictureBox::CanvasHeight() const {
+    return std::max(0, static_cast<int>(std::lround(std::min(InnerHeight(), LowestRow + 1.0) * Density)));
 }
 
 void PictureBox::PointerMoved(double PixelX, double PixelY) const {

@@ -40,6 +40,7 @@ public:
     double InnerWidth() const override { return Width.Pixels() - 2.0 * BorderWidth; }
     double InnerHeight() const override { return Height.Pixels() - 2.0 * BorderWidth; }
     Bitmap& Canvas();  // the bitmap, made at need
+    bool FitsCanvas(const Bitmap& Image) const;
     // Device pixels From to To, both ends included, were drawn on.
     void Drawn(int FromX, int FromY, int ToX, int ToY) const {
         if (Observer != nullptr) Observer->PictureDrawn(FromX, FromY, ToX, ToY);
@@ -51,6 +52,9 @@ public:
     void PropertyAssigned(const void* Which, bool Differs) override;
 
 private:
+    int CanvasWidth() const;
+    int CanvasHeight() const;
+
     double LastDensity = 1.0;  // the last that was taken
 };
 

@@ -77,11 +77,18 @@ void BitBltDevice(PictureSurface& Destination, std::int64_t X, std::int64_t Y, s
                       static_cast<int>(Columns.To + Columns.Length - 1), static_cast<int>(Rows.To + Rows.Length - 1));
 }
 
-void RotateColumns(PictureSurface& Rotated, PictureSurface& Source, int Shift) {
-    const Bitmap& Target = Rotated.Canvas();
-    const int Moved = std::clamp(static_cast<int>(std::lround(Shift * Rotated.Density)), 0, Target.Width);
-    BitBltDevice(Rotated, Target.Width - Moved, 0, Moved, Target.Height, Source, 0, 0);
-    BitBltDevice(Rotated, 0, 0, Target.Width - Moved, Target.Height, Source, Moved, 0);
+int TurnedColumns(const PictureSurface& Source, int Shift) {
+    return std::clamp(static_cast<int>(std::lround(Shift * Source.Density)), 0, Source.Picture.Width);
+}
+
+void BitBltTurned(PictureSurface& Destination, std::int64_t X, std::int64_t Y, std::int64_t Width, std::int64_t Height,
+                  PictureSurface& Source, int Shift) {
+    const std::int64_t Seam = Source.Canvas().Width - TurnedColumns(Source, Shift);
+    const auto Copy = [&](std::int64_t From, std::int64_t To, std::int64_t SourceX) {
+        if (From < To) BitBltDevice(Destination, From, Y, To - From, Height, Source, SourceX, Y);
+    };
+    Copy(X, std::min(X + Width, Seam), X + Source.Picture.Width - Seam);
+    Copy(std::max(X, Seam), X + Width, std::max(X, Seam) - Seam);
 }
 
 namespace {

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <utility>
 
 #include "platform/host.h"
 #include "state/numbers.h"
@@ -265,14 +266,13 @@ void PictureSurface::SetPicture(const Bitmap& Image) {
     if (Columns > 0 && Rows > 0) Drawn(0, 0, Columns - 1, Rows - 1);
 }
 
-void PictureSurface::TakePicture(Bitmap& Image) {
-    Bitmap& Target = Canvas();
-    if (Target.Width != Image.Width || Target.Height != Image.Height) {
+void PictureSurface::TakePicture(Bitmap Image) {
+    if (!FitsCanvas(Image)) {
         SetPicture(Image);
         return;
     }
-    Target.Pixels.swap(Image.Pixels);
-    if (!Target.Empty()) Drawn(0, 0, Target.Width - 1, Target.Height - 1);
+    Picture = std::move(Image);
+    if (!Picture.Empty()) Drawn(0, 0, Picture.Width - 1, Picture.Height - 1);
 }
 
 }  // namespace gloamtide

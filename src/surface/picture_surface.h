@@ -62,8 +62,8 @@ public:
 
     // Shows a picture whole, device pixel for device pixel: as much of it as the surface holds, from the top left.
     void SetPicture(const Bitmap& Image);
-    // The same, but where the sizes agree the image gets the surface's old pixels in exchange: nothing is copied.
-    void TakePicture(Bitmap& Image);
+    // The same, but where the sizes agree the image becomes the surface's own: nothing is copied.
+    void TakePicture(Bitmap Image);
 
 private:
     struct PixelPoint;
@@ -87,9 +87,12 @@ void BitBlt(PictureSurface& Destination, int X, int Y, int Width, int Height, Pi
 void BitBltDevice(PictureSurface& Destination, std::int64_t X, std::int64_t Y, std::int64_t Width, std::int64_t Height,
                   PictureSurface& Source, std::int64_t SourceX, std::int64_t SourceY);
 
-// Turns a picture of the same size and density: column p of Rotated becomes column p + Shift of Source, modulo the
-// width. Shift: pixels, 0 to the width; rounded to device pixels once, so that no seam shows.
-void RotateColumns(PictureSurface& Rotated, PictureSurface& Source, int Shift);
+// Copies a part of a picture of the same size and density as if that were turned: column p gets column p + Shift of
+// Source, modulo the width. X to Height: device pixels, a negative height as in BitBlt, a negative width copies
+// nothing. Shift: pixels, 0 to the width; rounded to device pixels once, so that no seam shows.
+void BitBltTurned(PictureSurface& Destination, std::int64_t X, std::int64_t Y, std::int64_t Width, std::int64_t Height,
+                  PictureSurface& Source, int Shift);
+int TurnedColumns(const PictureSurface& Source, int Shift);  // that shift in device pixels
 
 enum class Averaging { Levels, Light };  // of the colours as they are written, or of the light that they stand for
 

@@ -10,6 +10,7 @@ using Zones = ProgramTest;
 TEST_F(Zones, Table) {
     Start();
     ComboBox& List = FormConfigure.ComboSelTZ;
+    FormPictures.PictureTZmask.Canvas();
     std::map<int, std::string> Codes;  // red values of the mask, by row; -1: those of no zone
     for (int Code = 0; Code < 256; ++Code) {
         FormPictures.PictureTZmask.BackColor = RGB(Code, 100, 200);
