@@ -10,7 +10,7 @@
 
 namespace gloamtide {
 
-ComboView::ComboView(ComboBox& TheRecord, QWidget& Parent) : QComboBox(&Parent), Record(TheRecord) {
+ComboView::ComboView(ComboBox& TheRecord, QWidget& Parent) : Marked(&Parent), Record(TheRecord) {
     setModel(&Entries);
     setMaxVisibleItems(16);
     view()->installEventFilter(this);

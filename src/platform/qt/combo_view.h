@@ -6,12 +6,13 @@
 #include <QStringListModel>
 
 #include "platform/combo_box.h"
+#include "platform/qt/marked.h"
 
 namespace gloamtide {
 
 // Where texts are typed, the list offers the entries that fit, and a text that is an entry picks it when the user goes
 // on. A list of numbers answers typed digits.
-class ComboView : public QComboBox {
+class ComboView : public Marked<QComboBox> {
 public:
     ComboView(ComboBox& TheRecord, QWidget& Parent);
 

@@ -6,6 +6,7 @@
 #include "platform/controls.h"
 #include "platform/picture_box.h"
 #include "platform/qt/fonts.h"
+#include "platform/qt/marked.h"
 
 namespace gloamtide {
 
@@ -24,11 +25,11 @@ ControlWatcher::ControlWatcher(Control& TheRecord, QWidget& TheWidget, const Boa
     : Record(TheRecord), Widget(TheWidget), Scale(TheScale), ShowKind(std::move(TheShowKind)) {
     Widget.setObjectName(QString::fromStdString(Record.Name));
     ShownFont = Record.CurrentFont();
-    Widget.setFont(ScaledFont());
+    SetScaledFont();
     Record.Observer = this;
     ControlWatcher::ElementChanged(Record);
     Following = QObject::connect(&Scale, &BoardScale::Changed, &Widget, [this] {
-        Widget.setFont(ScaledFont());
+        SetScaledFont();
         Place();
     });
 }
@@ -38,7 +39,12 @@ ControlWatcher::~ControlWatcher() {
     Record.Observer = nullptr;
 }
 
-QFont ControlWatcher::ScaledFont() const { return InstalledFont(ShownFont, Scale.Factor(), Scale.LowestLetters()); }
+void ControlWatcher::SetFont(double Factor, int Lowest) {
+    if (auto* Grown = dynamic_cast<Marks*>(&Widget)) Grown->Growth = std::max(1.0, Factor);
+    Widget.setFont(InstalledFont(ShownFont, Factor, Lowest));
+}
+
+void ControlWatcher::SetScaledFont() { SetFont(Scale.Factor(), Scale.LowestLetters()); }
 
 void ControlWatcher::ElementChanged(Element&) {
     if (Writing) return;
@@ -54,7 +60,7 @@ void ControlWatcher::ElementChanged(Element&) {
 void ControlWatcher::ShowFont() {
     if (Record.CurrentFont() == ShownFont) return;
     ShownFont = Record.CurrentFont();
-    Widget.setFont(ScaledFont());
+    SetScaledFont();
 }
 
 void ControlWatcher::TakeNaturalSize() {
@@ -65,7 +71,7 @@ void ControlWatcher::TakeNaturalSize() {
     if (!WidthIsFree && !HeightIsFree) return;
     // The program reckons with sizes at scale 1, whatever the scale is.
     const bool Scaled = Widget.font() != InstalledFont(ShownFont);
-    if (Scaled) Widget.setFont(InstalledFont(ShownFont));
+    if (Scaled) SetFont(1.0, 1);
     Writing = true;
     if (WidthIsFree) {
         Natural.setWidth(Widget.sizeHint().width() - Widget.contentsMargins().left());
@@ -77,7 +83,7 @@ void ControlWatcher::TakeNaturalSize() {
         Record.Height.SetPixels(Natural.height());
     }
     Writing = false;
-    if (Scaled) Widget.setFont(ScaledFont());
+    if (Scaled) SetScaledFont();
 }
 
 void ControlWatcher::Place() {

@@ -31,7 +31,8 @@ public:
     void ElementChanged(Element&) override;
 
 private:
-    QFont ScaledFont() const;
+    void SetFont(double Factor, int Lowest);
+    void SetScaledFont();
     void ShowFont();
     void TakeNaturalSize();
     void Place();

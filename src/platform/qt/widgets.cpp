@@ -10,6 +10,7 @@
 #include "platform/qt/combo_view.h"
 #include "platform/qt/control_watcher.h"
 #include "platform/qt/frame_view.h"
+#include "platform/qt/marked.h"
 #include "platform/qt/picture_view.h"
 #include "platform/qt/rimmed_label.h"
 
@@ -108,7 +109,7 @@ void ShowOption(const OptionButton& Record, QRadioButton& Widget) {
 }
 
 void MakeOptionButton(OptionButton& Record, QWidget& Parent, Watchers& Watching) {
-    auto* Widget = new QRadioButton(&Parent);
+    auto* Widget = new Marked<QRadioButton>(&Parent);
     QObject::connect(Widget, &QRadioButton::clicked, Widget, [&Record, Widget] {
         Record.Value = true;
         ShowOption(Record, *Widget);  // also where the program took the choice back
@@ -117,7 +118,7 @@ void MakeOptionButton(OptionButton& Record, QWidget& Parent, Watchers& Watching)
 }
 
 void MakeCheckBox(CheckBox& Record, QWidget& Parent, Watchers& Watching) {
-    auto* Widget = new QCheckBox(&Parent);
+    auto* Widget = new Marked<QCheckBox>(&Parent);
     const auto Show = [&Record, Widget] {
         const QString Caption = QString::fromStdString(Record.Caption);
         if (Widget->text() != Caption) Widget->setText(Caption);

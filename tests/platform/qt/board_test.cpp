@@ -33,6 +33,11 @@ protected:
 
     FormWindow& Window() { return *Desktop.WindowOf(Demo); }
     QWidget& Find(const char* Name) { return *Window().findChild<QWidget*>(Name); }
+    int ArrowWidth() {
+        QStyleOptionComboBox List;
+        List.initFrom(&Find("Zones"));
+        return Find("Zones").style()->subControlRect(QStyle::CC_ComboBox, &List, QStyle::SC_ComboBoxArrow).width();
+    }
     QRect InWindow(QWidget& Which) { return {Which.mapTo(&Window(), QPoint()), Which.size()}; }
 
     std::vector<double> Densities;
@@ -44,6 +49,8 @@ TEST_F(FollowingBoard, StandsInTheMiddleAtEachSize) {
     EXPECT_EQ(Desktop.ScreenWidthTwips(), 800 * TwipsPerPixel) << "the largest screen whose board fits";
     Window().showNormal();
     const int Bar = Window().findChild<QMenuBar*>()->height();
+    const double Natural = Demo.North.Width.Pixels();
+    const double Arrow = ArrowWidth() / 2.0;
     for (const QSize Size : {QSize(800, 600 + Bar), QSize(1000, 450 + Bar), QSize(480, 330 + Bar)}) {
         Densities.clear();
         Window().resize(Size);
@@ -53,6 +60,10 @@ TEST_F(FollowingBoard, StandsInTheMiddleAtEachSize) {
         const QRect Place = InWindow(Find("OK"));
         EXPECT_LE((Corner + QPointF(120, 200) * Scale - Place.topLeft()).manhattanLength(), 2) << Scale;
         EXPECT_EQ(Find("OK").font().pixelSize(), qRound(11.0 * Scale));
+        EXPECT_NEAR(ArrowWidth(), Arrow * Scale, 1.0);
+        Demo.North.Caption = "South";
+        Demo.North.Caption = "North";
+        EXPECT_EQ(Demo.North.Width.Pixels(), Natural) << "the program reckons at scale 1";
         EXPECT_TRUE(Densities.empty()) << "while it moves pictures are stretched";
         ASSERT_TRUE(QTest::qWaitFor([&] { return Demo.Picture.Density == Scale; }));
         // The pointer counts in the program's units at any scale.
