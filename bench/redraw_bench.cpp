@@ -21,7 +21,7 @@ void SetDensity(double Density) {
     FormGTMain.PictureGT.Density = Density;
 }
 
-// As much as it takes to turn day and night, to lay the one over the other and to hand the result over.
+// What it takes to turn day and night whole, to lay the one over the other and to hand a copy over.
 void FourCopies(benchmark::State& Runs, double Density) {
     StartOnce();
     SetDensity(Density);
