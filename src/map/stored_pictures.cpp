@@ -109,10 +109,10 @@ void EmptyMapPictures() {
     for (PictureSurface* Each : FormPictures.WorkPictures()) Each->Picture.Renew(0, 0, 0);
 }
 
+// Not even the map that is to be put together keeps its memory while pictures are made: that is when most is needed.
 void DropOtherMapPictures(const MapPictures& Shown) {
     for (PictureSurface* Each : FormPictures.WorkPictures()) {
-        const bool Needed = Each == &Shown.Day || Each == &Shown.Night || Each == &FormPictures.PictureNightSplit;
-        if (!Needed) Each->Picture = Bitmap();
+        if (Each != &Shown.Day && Each != &Shown.Night) Each->Picture = Bitmap();
     }
 }
 
