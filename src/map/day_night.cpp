@@ -21,10 +21,14 @@
 namespace gloamtide {
 namespace {
 
-void RotateNight() {
+// Part of a picture, in device pixels, onto the map as the instant turns it.
+void LayTurned(PictureSurface& Source, int X, int Y, std::int64_t Width, int Height) {
+    BitBltTurned(FormPictures.PictureNightSplit, X, Y, Width, Height, Source, state.MapShift);
+}
+
+void LayNight() {
     PictureSurface& Night = ShownMapPictures().Night;
-    const Bitmap& Whole = Night.Canvas();
-    BitBltTurned(FormPictures.PictureNightSplit, 0, 0, Whole.Width, Whole.Height, Night, state.MapShift);
+    LayTurned(Night, 0, 0, Night.Canvas().Width, Night.Canvas().Height);
 }
 
 // Where the lit span lies at StripLatitude. Sets StripTop, DayHalfWidth, StripLeftX, StripRightX.
@@ -72,10 +76,9 @@ void LayDayStrips() {
 // At any other density the strips would show as steps: each row of device pixels is a strip of its own, reckoned at
 // the latitude of its middle, with its ends on device pixels.
 void LayDayRows() {
-    PictureSurface& Night = FormPictures.PictureNightSplit;
-    PictureSurface& Day = ShownMapPictures().Day;
-    const double Density = Night.Density;
-    const int Rows = Night.Canvas().Height;
+    PictureSurface& Map = FormPictures.PictureNightSplit;
+    const double Density = Map.Density;
+    const int Rows = Map.Canvas().Height;
     state.StripHeight = Single(1.0 / Density);
     for (int Row = 0; Row < Rows; ++Row) {
         state.StripLatitude = Single(80.0 - (Row + 0.5) / Density * 150.0 / state.MapHeight);
@@ -85,7 +88,7 @@ void LayDayRows() {
         PlaceDayStrip();
         const int Left = ToInt32(state.StripLeftX * Density);
         const int Right = ToInt32(state.StripRightX * Density);
-        BitBltTurned(Night, Left, Row, std::int64_t{Right} - Left, 1, Day, state.MapShift);
+        LayTurned(ShownMapPictures().Day, Left, Row, std::int64_t{Right} - Left, 1);
     }
 }
 
@@ -126,8 +129,7 @@ void BlitDayStrip() {
     const int Left = ToInt32(state.StripLeftX);
     const int Top = ToInt32(state.StripTop);
     const int Width = ToInt32(static_cast<double>(state.StripRightX) - state.StripLeftX);
-    BitBltTurned(FormPictures.PictureNightSplit, Left, Top, Width, ToInt32(state.StripHeight), ShownMapPictures().Day,
-                 state.MapShift);
+    LayTurned(ShownMapPictures().Day, Left, Top, Width, ToInt32(state.StripHeight));
 }
 
 void RedrawMap() {
@@ -135,7 +137,7 @@ void RedrawMap() {
     Bitmap& Map = FormPictures.PictureNightSplit.Picture;
     Map = std::exchange(FormGTMain.PictureGT.Picture, Bitmap());
     RotateMap();
-    RotateNight();
+    LayNight();
     LayDay();
     DrawOverlays();
     FormGTMain.PictureGT.TakePicture(std::exchange(Map, Bitmap()));
