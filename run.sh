@@ -4,7 +4,7 @@ set -euo pipefail
 
 Root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 "$Root/scripts/install_packages.sh" "$Root/scripts/packages.txt"
-cmake --preset release -S "$Root" -DGLOAMTIDE_TESTS=OFF -DGLOAMTIDE_BENCH=OFF
+cmake --preset release -S "$Root" -DGLOAMTIDE_TESTS=OFF -DGLOAMTIDE_BENCH=OFF -DCMAKE_UNITY_BUILD=ON
 cmake --build "$Root/build" --parallel "$(nproc)"
 
 # The current folder stays the caller's: the program looks for Startup.dat there.

@@ -6,6 +6,7 @@ set -euo pipefail
 
 Root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 Times=()
+Preset=release
 
 # $1: what the stage is called; the rest: its command
 Stage() {
@@ -46,12 +47,15 @@ case ${1:-all} in
         Stage 'build with sanitizers' Build sanitize gloamtide_tests gloamtide_qt_tests
         Stage 'tests with sanitizers' RunTests sanitize
         ;;
-    quick) Stage 'configure' Configure release -DGLOAMTIDE_BENCH=OFF ;;
+    quick)
+        Preset=quick
+        Stage 'configure' Configure quick -DGLOAMTIDE_BENCH=OFF
+        ;;
     *)
         echo "Usage: $0 [quick]" >&2
         exit 2
         ;;
 esac
-Stage 'build' Build release
+Stage 'build' Build $Preset
 printf '%s\n' '' "${Times[@]}" "$(printf '%-25s %4d s' 'until the last tests' "$SECONDS")"
-RunTests release
+RunTests $Preset

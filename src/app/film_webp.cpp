@@ -96,11 +96,11 @@ FilmFrame FrameOver(const QImage& Before, const QImage& Picture) {
     FilmFrame Result{Area, Picture.copy(Area)};
     ForEachBlock(Picture.rect(), [&](const QRect& Block) {
         if (!Block.intersects(Area) || Changed.intersects(Block)) return;
-        const QRgb Kept = Coded.intersects(Block) ? RGB_MASK : 0;
+        const QRgb Mask = Coded.intersects(Block) ? RGB_MASK : 0;
         const QRect Inside = Block.translated(-Area.topLeft());
         for (int Y = Inside.top(); Y <= Inside.bottom(); ++Y) {
             auto* const Row = reinterpret_cast<QRgb*>(Result.Blocks.scanLine(Y)) + Inside.left();
-            std::for_each(Row, Row + Inside.width(), [Kept](QRgb& Pixel) { Pixel &= Kept; });
+            std::for_each(Row, Row + Inside.width(), [Mask](QRgb& Pixel) { Pixel &= Mask; });
         }
     });
     return Result;

@@ -122,11 +122,11 @@ private:
         const auto Reach = static_cast<float>(Sun.Reach);
         for (int Column = From; Column < To; ++Column) {
             const std::uint32_t Share = Shares.At(Middle + Reach * Cosines[static_cast<std::size_t>(Column)]);
-            const Color Lit = Day[Column];
-            const Color Dark = Night[Column];
+            const Color ByDay = Day[Column];
+            const Color ByNight = Night[Column];
             const auto Channel = [&](unsigned Shift) {
-                const std::uint32_t Sum = Share * Light.Light[Lit >> Shift & 255U] +
-                                          (DayShares::Whole - Share) * Light.Light[Dark >> Shift & 255U];
+                const std::uint32_t Sum = Share * Light.Light[ByDay >> Shift & 255U] +
+                                          (DayShares::Whole - Share) * Light.Light[ByNight >> Shift & 255U];
                 return Color{Light.Level[Sum / DayShares::Whole]} << Shift;
             };
             Night[Column] = Channel(0) | Channel(8) | Channel(16);
@@ -160,11 +160,11 @@ void DrawTwilightLine(const TwilightLine& Each) {
     const auto HalfWidth = [&](int Row) {
         return Parallel(RowLatitude(Row, Rows)).HalfArc(Each.Altitude) * state.MapWidth / 360.0;
     };
-    const double Beyond = 0.5 * state.MapWidth;
+    const double Edge = 0.5 * state.MapWidth;
     double Before = HalfWidth(-1);
     for (int Row = 0; Row <= Rows; ++Row) {
         const double Here = HalfWidth(Row);
-        const bool Crosses = std::max(Before, Here) > 0.0 && std::min(Before, Here) < Beyond;
+        const bool Crosses = std::max(Before, Here) > 0.0 && std::min(Before, Here) < Edge;
         for (const double Side : {-1.0, 1.0}) {
             for (const double Turn : {-1.0, 0.0, 1.0}) {
                 const auto X = [&](double Half) {
@@ -189,11 +189,11 @@ void LayTwilight() {
     const int Turned = TurnedColumns(Shown, state.MapShift);
     Bitmap& Night = FormPictures.PictureNightSplit.Canvas();
     const Mixer Row(Night.Width);
-    std::vector<Color> Lit(static_cast<std::size_t>(Night.Width));
+    std::vector<Color> DayRow(static_cast<std::size_t>(Night.Width));
     for (int Y = 0; Y < Night.Height; ++Y) {
         const Color* Stored = Day.Row(Y);
-        std::rotate_copy(Stored, Stored + Turned, Stored + Night.Width, Lit.begin());
-        Row.LayRow(Lit.data(), Night.Row(Y), Parallel(RowLatitude(Y, Night.Height)));
+        std::rotate_copy(Stored, Stored + Turned, Stored + Night.Width, DayRow.begin());
+        Row.LayRow(DayRow.data(), Night.Row(Y), Parallel(RowLatitude(Y, Night.Height)));
     }
 }
 
