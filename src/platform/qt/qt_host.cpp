@@ -33,8 +33,8 @@ public:
         return QProxyStyle::styleHint(Hint, Option, Widget, Return);
     }
 
-    // Every menu bar asks for this one, though only a narrow one shows it. The style's own is a file that makes Qt load
-    // each plugin for pictures; that it has no other here.
+    // Every menu bar asks for the arrow of those items that it has no room for. To read the style's own, a file, Qt
+    // would load each plugin for pictures at every start, so it is drawn here.
     QIcon standardIcon(StandardPixmap Which, const QStyleOption* Option, const QWidget* Widget) const override {
         return Which == SP_ToolBarHorizontalExtensionButton ? ArrowIcon()
                                                             : QProxyStyle::standardIcon(Which, Option, Widget);
